@@ -1,0 +1,31 @@
+// What the program asks of the operating system, one interface a subject. main.cpp installs the
+// platform of the system it is built for; tests install one of their own.
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/Files.h"
+#include "platform/Locale.h"
+#include "platform/Machine.h"
+#include "platform/Process.h"
+#include "platform/Random.h"
+#include "platform/Settings.h"
+
+namespace platform {
+
+struct Platform {
+    Process& process;
+    Clock& clock;
+    Random& random;
+    Settings& settings;
+    Files& files;
+    Locale& locale;
+    Machine& machine;
+};
+
+// The installed platform. Calling it before install() is a mistake of the caller.
+const Platform& current();
+
+// Makes `it` the current platform; nullptr takes it away again.
+void install(const Platform* it);
+
+} // namespace platform
