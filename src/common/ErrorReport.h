@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/RuntimeError.h"
 
 #include <string>
 
@@ -19,5 +20,12 @@ Answer ShowErrorBox(int number, const std::string& description, const std::strin
 // carries the program's version. A log that can't be written is lost without a word.
 void WriteDebugLog(int number, const std::string& text, const std::string& description,
                    const platform::DateTime& when);
+
+// The next record is the first of a run again.
+void StartNewDebugLog();
+
+// A failure that no routine has trapped: it is logged, and the user is told. Nothing can be
+// repeated or passed over any more, so the box has one button.
+void ReportUntrapped(const platform::RuntimeError& error, const std::string& where);
 
 } // namespace quorvanta

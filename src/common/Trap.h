@@ -25,11 +25,13 @@ namespace trap {
 struct LeaveRoutine {};
 
 // Runs one step, and asks `decide` what to do as often as it fails.
-template <class Decide> class Step {
+template <class Decide>
+class Step {
 public:
     explicit Step(Decide& decide) : decide_(&decide) {}
 
-    template <class Body> void operator()(Body&& body) const {
+    template <class Body>
+    void operator()(Body&& body) const {
         for (;;) {
             try {
                 body();
@@ -63,7 +65,8 @@ private:
 } // namespace trap
 
 // Runs `body`, which takes the step function; `decide` maps a RuntimeError to an Answer.
-template <class Decide, class Body> void trappedWith(Decide decide, Body&& body) {
+template <class Decide, class Body>
+void trappedWith(Decide decide, Body&& body) {
     try {
         body(trap::Step<Decide>(decide));
     } catch (const trap::LeaveRoutine&) {
@@ -71,7 +74,8 @@ template <class Decide, class Body> void trappedWith(Decide decide, Body&& body)
 }
 
 // The routine reports its failures under `label`.
-template <class Body> void trapped(const char* label, Body&& body) {
+template <class Body>
+void trapped(const char* label, Body&& body) {
     trappedWith(
         [label](const platform::RuntimeError& error) {
             return ShowErrorBox(error.number, error.description, label);
@@ -80,7 +84,8 @@ template <class Body> void trapped(const char* label, Body&& body) {
 }
 
 // The routine runs with failures switched off: a failing step is skipped without a word.
-template <class Body> void failuresOff(Body&& body) {
+template <class Body>
+void failuresOff(Body&& body) {
     trappedWith([](const platform::RuntimeError&) { return Answer::Ignore; }, body);
 }
 

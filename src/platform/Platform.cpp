@@ -13,6 +13,8 @@ const Platform& current() {
     return *installed;
 }
 
-void install(const Platform* it) { installed = it; }
+void install(const Platform* it) {
+    installed = it;
+}
 
 } // namespace platform

@@ -175,11 +175,20 @@ struct FakeFiles : platform::Files {
 // An American user's locale by default; a test changes the items it wants otherwise. Text is taken
 // for ASCII.
 struct FakeLocale : platform::Locale {
-    std::map<int, std::string> items{{1, "0409"},       {14, "."},       {15, ","},
-                                     {29, "/"},         {30, ":"},       {31, "M/d/yyyy"},
-                                     {33, "0"},         {36, "1"},       {4099, "h:mm:ss tt"},
-                                     {40, "AM"},        {41, "PM"},      {13, "1"},
-                                     {32, "dddd, MMMM d, yyyy"}, {12, ","}};
+    std::map<int, std::string> items{{1, "0409"},
+                                     {14, "."},
+                                     {15, ","},
+                                     {29, "/"},
+                                     {30, ":"},
+                                     {31, "M/d/yyyy"},
+                                     {33, "0"},
+                                     {36, "1"},
+                                     {4099, "h:mm:ss tt"},
+                                     {40, "AM"},
+                                     {41, "PM"},
+                                     {13, "1"},
+                                     {32, "dddd, MMMM d, yyyy"},
+                                     {12, ","}};
 
     int GetLocaleInfoA(int, int item, char* buffer, int size) const override {
         const auto it = items.find(item);

@@ -1,0 +1,45 @@
+#include "frame/MainCode_ZW.h"
+
+#include "common/ErrorReport.h"
+#include "common/Trap.h"
+#include "frame/Shared.h"
+#include "frame/frmSplash.h"
+#include "platform/Platform.h"
+
+namespace quorvanta {
+
+using toolkit::App;
+
+void Main() {
+    toolkit::Form::untrapped = [](const toolkit::Form& form, const platform::RuntimeError& error) {
+        ReportUntrapped(error, form.name());
+    };
+    trapped("Sub Main", [&](auto step) {
+        if (App.PrevInstance)
+            platform::current().process.end();
+        step([&] { platform::current().random.seed(); });
+        gintLanguage = 1;
+        step([&] { App.HelpFile = platform::current().files.join(App.Path, "quorvantalite.hlp"); });
+        step([&] { frmSplash::the().Show(); });
+    });
+}
+
+void EndApp(toolkit::Form& frm) {
+    // Unloading the frame asks its QueryUnload, which ends the run in its turn.
+    static bool ending = false;
+    if (ending)
+        return;
+    struct Guard {
+        Guard() { ending = true; }
+        ~Guard() { ending = false; }
+    } guard;
+
+    failuresOff([&](auto step) {
+        for (int i = toolkit::Forms.Count() - 1; i >= 0; --i)
+            step([&] { toolkit::Forms(i).Unload(); });
+        step([&] { frm.Unload(); });
+    });
+    platform::current().process.end();
+}
+
+} // namespace quorvanta

@@ -1,0 +1,161 @@
+#include "toolkit/Controls.h"
+#include "toolkit/Form.h"
+
+#include <algorithm>
+
+namespace toolkit {
+
+void tellPeer(Object& owner, Prop which) {
+    if (owner.peer())
+        owner.peer()->changed(which);
+}
+
+void Object::raise(const std::function<void()>& event) {
+    if (form_.loaded())
+        form_.run(event);
+}
+
+Control::Control(Container& container, std::string name, std::string caption, Place place)
+    : Object(container.ownerForm(), std::move(name)), parent_(&container) {
+    Caption = std::move(caption);
+    Left = place.Left;
+    Top = place.Top;
+    Width = place.Width;
+    Height = place.Height;
+    TabIndex = static_cast<int>(container.controls().size());
+    container.add(*this);
+}
+
+Control::Control(Form& owner, std::string name, std::string caption)
+    : Object(owner, std::move(name)) {
+    Caption = std::move(caption);
+}
+
+void Control::joinArray(ControlArrayBase& array, int index) {
+    array_ = &array;
+    index_ = index;
+}
+
+void Control::SetFocus() {
+    desktop().focus(*this);
+}
+
+void Control::click() {
+    if (takesInput())
+        raiseClick();
+}
+
+void Control::raiseClick() {
+    if (array_ && array_->Click)
+        raise([this] { array_->Click(index_); });
+    else if (Click)
+        raise(Click);
+}
+
+void Control::doubleClick() {
+    if (takesInput() && DblClick)
+        raise(DblClick);
+}
+
+void Control::keyDown(int& keyCode, int shift) {
+    if (KeyDown)
+        raise([&] { KeyDown(keyCode, shift); });
+}
+
+void Control::keyPress(int& keyAscii) {
+    if (KeyPress)
+        raise([&] { KeyPress(keyAscii); });
+}
+
+void Control::gotFocus() {
+    if (array_ && array_->GotFocus)
+        raise([this] { array_->GotFocus(index_); });
+    else if (GotFocus)
+        raise(GotFocus);
+}
+
+void Control::lostFocus() {
+    if (array_ && array_->LostFocus)
+        raise([this] { array_->LostFocus(index_); });
+    else if (LostFocus)
+        raise(LostFocus);
+}
+
+std::vector<Control*> ControlArrayBase::elements() const {
+    std::vector<Control*> there;
+    std::copy_if(elements_.begin(), elements_.end(), std::back_inserter(there),
+                 [](const Control* control) { return control != nullptr; });
+    return there;
+}
+
+std::shared_ptr<ControlArrayBase> ControlArrayBase::ref() {
+    return {form_.shared_from_this(), this};
+}
+
+void ControlArrayBase::add(int index, Control& control) {
+    if (index >= static_cast<int>(elements_.size()))
+        elements_.resize(at(index) + 1);
+    elements_[at(index)] = &control;
+    control.joinArray(*this, index);
+}
+
+void ControlArrayBase::missing(int index) {
+    throw platform::RuntimeError(platform::NoSuchElement, "Control array element '" +
+                                                              std::to_string(index) +
+                                                              "' doesn't exist");
+}
+
+void OptionButton::select(bool value) {
+    if (selected_ == value)
+        return;
+    if (value)
+        for (Control* control : parent().controls())
+            if (auto* other = dynamic_cast<OptionButton*>(control); other && other->selected_) {
+                other->selected_ = false;
+                tellPeer(*other, Prop::Value);
+            }
+    selected_ = value;
+    tellPeer(*this, Prop::Value);
+    if (value)
+        raiseClick();
+}
+
+void OptionButton::click() {
+    if (takesInput())
+        select(true);
+}
+
+int characters(const std::string& text) {
+    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; // not a continuation byte
+    }));
+}
+
+void Timer::fire() {
+    if (Enabled && Tick)
+        raise(Tick);
+}
+
+Property<std::string>& StatusBar::Panels(int index) {
+    if (index != 1)
+        throw platform::RuntimeError(platform::SubscriptOutOfRange);
+    return panel_;
+}
+
+void Toolbar::clickButton(const ToolbarButton& button) {
+    if (takesInput() && ButtonClick)
+        raise([this, button] { ButtonClick(button); });
+}
+
+Menu::Menu(Form& owner, std::string name, std::string caption)
+    : Control(owner, std::move(name), std::move(caption)) {
+    owner.addMenu(*this);
+}
+
+Menu::Menu(Menu& above, std::string name, std::string caption, std::function<void()> click)
+    : Control(above.form(), std::move(name), std::move(caption)) {
+    Click = std::move(click);
+    above.entries_.push_back(this);
+}
+
+} // namespace toolkit

@@ -1,0 +1,153 @@
+#include "toolkit/Form.h"
+
+#include <algorithm>
+
+namespace toolkit {
+
+FormList Forms;
+ScreenObject Screen;
+AppObject App;
+std::function<void(const Form&, const platform::RuntimeError&)> Form::untrapped;
+
+Form::Form(Kind theKind, std::string name, double width, double height)
+    : Object(*this, std::move(name)),
+      Container(*this),
+      kind(theKind),
+      clientWidth(width),
+      clientHeight(height) {
+    Width = width;
+    Height = height;
+}
+
+void Form::setBorders(double width, double height) {
+    Width.assume(clientWidth + width);
+    Height.assume(clientHeight + height);
+}
+
+void Form::run(const std::function<void()>& event) {
+    const auto keep = shared_from_this();
+    try {
+        event();
+    } catch (const platform::RuntimeError& error) {
+        if (untrapped)
+            untrapped(*this, error);
+    }
+}
+
+void Form::Load() {
+    if (loaded_)
+        return;
+    loaded_ = true;
+    Forms.loaded_.push_back(shared_from_this());
+    desktop().open(*this);
+    run([this] { Form_Load(); });
+}
+
+void Form::Show(bool modal) {
+    const auto keep = shared_from_this();
+    Load();
+    if (!loaded_)
+        return; // loading it has unloaded it
+    Screen.activated(*this);
+    desktop().show(*this, modal);
+}
+
+void Form::Unload(UnloadMode mode) {
+    if (!loaded_ || unloading_)
+        return;
+    const auto keep = shared_from_this();
+    unloading_ = true;
+    int cancel = 0;
+    run([&] { Form_QueryUnload(cancel, mode); });
+    if (cancel != 0) {
+        unloading_ = false;
+        return;
+    }
+    if (kind == Kind::MDIFrame)
+        unloadChildren(mode);
+    run([this] { Form_Unload(); });
+    loaded_ = false;
+    std::erase(Forms.loaded_, keep);
+    Screen.forget(*this);
+    desktop().close(*this);
+    dropPeers();
+    forget();
+    if (Forms.Count() == 0)
+        desktop().endLoop();
+}
+
+void Form::unloadChildren(UnloadMode mode) {
+    const auto loaded = Forms.loaded_;
+    for (auto form = loaded.rbegin(); form != loaded.rend(); ++form)
+        if ((*form)->kind == Kind::MDIChild)
+            (*form)->Unload(mode);
+}
+
+namespace {
+
+void dropPeersIn(const Container& container) {
+    for (Control* control : container.controls()) {
+        if (const auto* inner = dynamic_cast<const Container*>(control))
+            dropPeersIn(*inner);
+        control->attach(nullptr);
+    }
+}
+
+void dropPeersOf(const std::vector<Menu*>& menus) {
+    for (Menu* menu : menus) {
+        dropPeersOf(menu->entries());
+        menu->attach(nullptr);
+    }
+}
+
+} // namespace
+
+void Form::dropPeers() {
+    dropPeersIn(*this);
+    dropPeersOf(menuBar_);
+    attach(nullptr);
+}
+
+void Form::previewKeyDown(int& keyCode, int shift) {
+    if (loaded_ && KeyPreview)
+        run([&] { Form_KeyDown(keyCode, shift); });
+}
+
+void Form::previewKeyPress(int& keyAscii) {
+    if (loaded_ && KeyPreview)
+        run([&] { Form_KeyPress(keyAscii); });
+}
+
+Form& FormList::operator()(int index) const {
+    if (index < 0 || index >= Count())
+        throw platform::RuntimeError(platform::SubscriptOutOfRange);
+    return *loaded_[static_cast<std::size_t>(index)];
+}
+
+void ScreenObject::focusMoved(Control& now) {
+    Control* const before = focus_;
+    if (before == &now)
+        return;
+    // Either event may unload either form.
+    const auto keepNow = now.form().shared_from_this();
+    const auto keepBefore = before ? before->form().shared_from_this() : nullptr;
+    focus_ = &now;
+    now.form().ActiveControl = &now;
+    activeForm_ = &now.form();
+    if (before)
+        before->lostFocus();
+    if (focus_ == &now)
+        now.gotFocus();
+}
+
+void ScreenObject::forget(Form& form) {
+    if (focus_ && &focus_->form() == &form)
+        focus_ = nullptr;
+    if (activeForm_ != &form)
+        return;
+    activeForm_ = nullptr;
+    if (Forms.Count() > 0)
+        activeForm_ = &Forms(Forms.Count() - 1);
+}
+
+} // namespace toolkit

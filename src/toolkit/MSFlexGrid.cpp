@@ -1,0 +1,111 @@
+#include "toolkit/MSFlexGrid.h"
+
+#include "toolkit/Form.h"
+
+#include <algorithm>
+
+namespace toolkit {
+
+namespace {
+std::size_t at(int index) {
+    return static_cast<std::size_t>(index);
+}
+} // namespace
+
+MSFlexGrid::MSFlexGrid(Container& parent, std::string name, Place place)
+    : Control(parent, std::move(name), {}, place) {
+    resize(rows_, cols_);
+}
+
+void MSFlexGrid::resize(int rows, int cols) {
+    if (rows < 0 || cols < 0)
+        throw platform::RuntimeError(platform::InvalidCall);
+    rows_ = rows;
+    cols_ = cols;
+    cells_.resize(at(rows));
+    for (auto& row : cells_)
+        row.resize(at(cols));
+    colWidths_.resize(at(cols), kDefaultColWidth);
+    rowHeights_.resize(at(rows), kDefaultRowHeight);
+    row_ = std::clamp(row_, 0, std::max(0, rows - 1));
+    rowSel_ = row_;
+    tellPeer(*this, Prop::Rows);
+}
+
+void MSFlexGrid::setRows(int rows) {
+    resize(rows, cols_);
+}
+void MSFlexGrid::setCols(int cols) {
+    resize(rows_, cols);
+}
+
+void MSFlexGrid::checkCell(int row, int column) const {
+    if (row < 0 || row >= rows_ || column < 0 || column >= cols_)
+        throw platform::RuntimeError(platform::InvalidArrayIndex);
+}
+
+const std::string& MSFlexGrid::text(int row, int column) const {
+    checkCell(row, column);
+    return cells_[at(row)][at(column)];
+}
+
+void MSFlexGrid::setText(int row, int column, const std::string& text) {
+    checkCell(row, column);
+    std::string& cell = cells_[at(row)][at(column)];
+    if (cell == text)
+        return;
+    cell = text;
+    if (peer())
+        peer()->cellChanged(row, column);
+}
+
+void MSFlexGrid::setRow(int row) {
+    if (row < 0 || row >= rows_)
+        throw platform::RuntimeError(platform::InvalidCall);
+    const bool changed = row != row_ || row != rowSel_;
+    row_ = rowSel_ = row;
+    if (changed)
+        tellPeer(*this, Prop::Row);
+}
+
+int MSFlexGrid::ColWidth(int column) const {
+    checkCell(0, column);
+    return colWidths_[at(column)];
+}
+
+void MSFlexGrid::setColWidth(int column, int width) {
+    checkCell(0, column);
+    if (std::exchange(colWidths_[at(column)], width) != width)
+        tellPeer(*this, Prop::ColWidth);
+}
+
+int MSFlexGrid::RowHeight(int row) const {
+    checkCell(row, 0);
+    return rowHeights_[at(row)];
+}
+
+void MSFlexGrid::setRowHeight(int row, int height) {
+    checkCell(row, 0);
+    if (std::exchange(rowHeights_[at(row)], height) != height)
+        tellPeer(*this, Prop::RowHeight);
+}
+
+void MSFlexGrid::Clear() {
+    for (int row = 0; row < rows_; ++row)
+        for (int column = 0; column < cols_; ++column)
+            setText(row, column, {});
+}
+
+void MSFlexGrid::clickRow(int row) {
+    if (!takesInput() || row < 0 || row >= rows_)
+        return;
+    if (row >= FixedRows)
+        setRow(row);
+    raiseClick();
+}
+
+std::shared_ptr<MSFlexGrid> MSFlexGrid::ref() {
+    return {form().shared_from_this(), this};
+}
+
+} // namespace toolkit
