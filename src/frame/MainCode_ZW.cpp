@@ -2,6 +2,7 @@
 
 #include "common/ErrorReport.h"
 #include "common/Trap.h"
+#include "frame/MDIForm1.h"
 #include "frame/Shared.h"
 #include "frame/frmSplash.h"
 #include "platform/Platform.h"
@@ -39,6 +40,14 @@ void EndApp(toolkit::Form& frm) {
             step([&] { toolkit::Forms(i).Unload(); });
         step([&] { frm.Unload(); });
     });
+    platform::current().process.end();
+}
+
+void EndRunForSystem() {
+    if (MDIForm1* const frame = MDIForm1::ifLoaded()) {
+        frame->Unload(toolkit::AppWindows);
+        EndApp(*frame); // reached if the frame was being closed by the user just then
+    }
     platform::current().process.end();
 }
 

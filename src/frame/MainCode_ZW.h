@@ -12,4 +12,8 @@ void Main();
 // is no question here: asking is the caller's. Does not return, but for a call from within itself.
 void EndApp(toolkit::Form& frm);
 
+// The session ends, or the system asks the program to: closes the frame without a question, also
+// while one is open. Without a frame there is nothing to save yet, and the process just ends.
+void EndRunForSystem();
+
 } // namespace quorvanta

@@ -22,7 +22,7 @@ Control::Control(Container& container, std::string name, std::string caption, Pl
     Top = place.Top;
     Width = place.Width;
     Height = place.Height;
-    TabIndex = static_cast<int>(container.controls().size());
+    TabIndex = form().nextTabIndex();
     container.add(*this);
 }
 

@@ -42,6 +42,7 @@ public:
 
     Control* ActiveControl = nullptr;
     const std::vector<Menu*>& menuBar() const { return menuBar_; }
+    int nextTabIndex() { return tabIndices_++; }
     void addMenu(Menu& menu) { menuBar_.push_back(&menu); }
 
     // Loads the form if it isn't loaded, and brings it forward.
@@ -79,6 +80,7 @@ private:
     void dropPeers();
 
     std::vector<Menu*> menuBar_;
+    int tabIndices_ = 0;
     bool loaded_ = false;
     bool unloading_ = false;
 };

@@ -104,6 +104,11 @@ void MSFlexGrid::clickRow(int row) {
     raiseClick();
 }
 
+void MSFlexGrid::moveToRow(int row) {
+    if (takesInput() && row >= FixedRows && row < rows_)
+        setRow(row);
+}
+
 std::shared_ptr<MSFlexGrid> MSFlexGrid::ref() {
     return {form().shared_from_this(), this};
 }

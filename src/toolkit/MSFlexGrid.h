@@ -64,10 +64,13 @@ public:
     // Takes away all cell texts.
     void Clear();
 
-    // The user clicks a row, its row header included, or moves to it with the keyboard: a data row
+    // The user clicks a row, its row header included, or presses Enter on it: a data row
     // becomes current before Click is raised, the header row changes nothing. A double click is
     // told after the click that it begins with.
     void clickRow(int row);
+
+    // The user moves to a data row with the keyboard: it becomes current, with no Click.
+    void moveToRow(int row);
 
     // A counted reference: it keeps the grid alive after its form has been unloaded.
     std::shared_ptr<MSFlexGrid> ref();

@@ -1,0 +1,44 @@
+#include "desktop/qt/ControlPeer.h"
+
+#include <QPushButton>
+
+namespace desktop_qt {
+
+namespace {
+
+class CommandButtonPeer final : public ControlPeer {
+public:
+    CommandButtonPeer(toolkit::CommandButton& button, QPushButton* widget)
+        : ControlPeer(button, widget), button_(button), widget_(widget) {
+        QObject::connect(widget, &QPushButton::clicked, widget, [this] { button_.click(); });
+        showCaption();
+    }
+
+    void showCaption() override {
+        widget_->setText(text(button_.Caption));
+        speak();
+    }
+
+    void showLook() override {
+        ControlPeer::showLook();
+        speak();
+    }
+
+private:
+    void speak() {
+        if (button_.speaksPicks)
+            widget_->setAccessibleName(text(button_.Caption) +
+                                       (button_.FontBold ? QStringLiteral(", picked") : ""));
+    }
+
+    toolkit::CommandButton& button_;
+    QPushButton* widget_;
+};
+
+} // namespace
+
+std::unique_ptr<ControlPeer> makeCommandButton(toolkit::CommandButton& button, QWidget* parent) {
+    return std::make_unique<CommandButtonPeer>(button, new QPushButton(parent));
+}
+
+} // namespace desktop_qt

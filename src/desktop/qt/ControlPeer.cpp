@@ -1,0 +1,101 @@
+#include "desktop/qt/ControlPeer.h"
+
+#include <QVariant>
+
+namespace desktop_qt {
+
+using toolkit::Control;
+using toolkit::Prop;
+
+namespace {
+
+constexpr const char* kControl = "toolkitControl"; // the property that holds a widget's control
+
+template <class T, class Make> bool makeIf(Control& control, QWidget* parent, Make make) {
+    auto* const kind = dynamic_cast<T*>(&control);
+    if (kind)
+        control.attach(make(*kind, parent));
+    return kind != nullptr;
+}
+
+} // namespace
+
+ControlPeer::ControlPeer(Control& control, QWidget* widget) : control_(control), widget_(widget) {
+    widget->setObjectName(text(control.name()));
+    widget->setProperty(kControl, QVariant::fromValue<void*>(&control));
+    widget->setGeometry(rectangle(control));
+    widget->setFont(font(control.design, control.FontBold));
+    widget->setEnabled(control.Enabled);
+    widget->setVisible(control.Visible);
+    widget->setToolTip(text(control.ToolTipText));
+    if (!control.spokenAs.empty())
+        widget->setAccessibleName(text(control.spokenAs));
+}
+
+ControlPeer::~ControlPeer() {
+    if (widget_)
+        widget_->setProperty(kControl, {});
+}
+
+void ControlPeer::changed(Prop which) {
+    switch (which) {
+    case Prop::Caption:
+        return showCaption();
+    case Prop::Enabled:
+        widget_->setEnabled(control_.Enabled);
+        return showLook();
+    case Prop::Visible:
+        return widget_->setVisible(control_.Visible);
+    case Prop::ForeColor:
+    case Prop::FontBold:
+        return showLook();
+    case Prop::ToolTipText:
+        return widget_->setToolTip(text(control_.ToolTipText));
+    case Prop::Left:
+    case Prop::Top:
+    case Prop::Width:
+    case Prop::Height:
+        return widget_->setGeometry(rectangle(control_));
+    default:
+        return;
+    }
+}
+
+void ControlPeer::showLook() {
+    if (widget_->font().bold() != control_.FontBold)
+        widget_->setFont(font(control_.design, control_.FontBold));
+}
+
+Control* controlOf(const QWidget* widget) {
+    for (; widget; widget = widget->parentWidget())
+        if (const QVariant control = widget->property(kControl); control.isValid())
+            return static_cast<Control*>(control.value<void*>());
+    return nullptr;
+}
+
+QWidget* widgetOf(const Control& control) {
+    const auto* const peer = dynamic_cast<const ControlPeer*>(control.peer());
+    return peer ? peer->widget() : nullptr;
+}
+
+void makePeers(toolkit::Container& container, QWidget* parent) {
+    for (Control* control : container.controls()) {
+        if (auto* const timer = dynamic_cast<toolkit::Timer*>(control)) {
+            control->attach(makeTimer(*timer));
+            continue;
+        }
+        makeIf<toolkit::Label>(*control, parent, makeLabel) ||
+            makeIf<toolkit::CommandButton>(*control, parent, makeCommandButton) ||
+            makeIf<toolkit::OptionButton>(*control, parent, makeOptionButton) ||
+            makeIf<toolkit::Frame>(*control, parent, makeFrame) ||
+            makeIf<toolkit::Image>(*control, parent, makeImage) ||
+            makeIf<toolkit::TextBox>(*control, parent, makeTextBox) ||
+            makeIf<toolkit::StatusBar>(*control, parent, makeStatusBar) ||
+            makeIf<toolkit::Toolbar>(*control, parent, makeToolbar) ||
+            makeIf<toolkit::MSFlexGrid>(*control, parent, makeMSFlexGrid);
+        if (auto* const inner = dynamic_cast<toolkit::Container*>(control))
+            makePeers(*inner, widgetOf(*control));
+    }
+}
+
+} // namespace desktop_qt

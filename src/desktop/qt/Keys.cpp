@@ -1,0 +1,42 @@
+#include "desktop/qt/Keys.h"
+
+#include <QHash>
+
+namespace desktop_qt {
+
+int keyCode(const QKeyEvent& event) {
+    static const QHash<int, int> kCodes{
+        {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},      {Qt::Key_Backtab, 9}, {Qt::Key_Return, 13},
+        {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},   {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
+        {Qt::Key_Pause, 19},    {Qt::Key_CapsLock, 20}, {Qt::Key_Escape, 27}, {Qt::Key_Space, 32},
+        {Qt::Key_PageUp, 33},   {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},    {Qt::Key_Home, 36},
+        {Qt::Key_Left, 37},     {Qt::Key_Up, 38},      {Qt::Key_Right, 39},  {Qt::Key_Down, 40},
+        {Qt::Key_Insert, 45},   {Qt::Key_Delete, 46},  {Qt::Key_NumLock, 144}};
+    const int key = event.key();
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F16)
+        return 112 + key - Qt::Key_F1;
+    // A key without a code of its own keeps one that is not 0, since 0 means a dropped key.
+    return kCodes.value(key, key < 0x100 ? qMax(1, key) : 0xFF);
+}
+
+int shiftMask(const QKeyEvent& event) {
+    // The event's own modifiers() turns the bit of a modifier key round, which is wrong for one
+    // that repeats.
+    const Qt::KeyboardModifiers before = event.QInputEvent::modifiers();
+    const int key = event.key();
+    int mask = 0;
+    if (before.testFlag(Qt::ShiftModifier) || key == Qt::Key_Shift)
+        mask |= 1;
+    if (before.testFlag(Qt::ControlModifier) || key == Qt::Key_Control)
+        mask |= 2;
+    if (before.testFlag(Qt::AltModifier) || key == Qt::Key_Alt)
+        mask |= 4;
+    return mask;
+}
+
+int keyAscii(const QKeyEvent& event) {
+    const QString typed = event.text();
+    return typed.isEmpty() ? 0 : typed.at(0).unicode();
+}
+
+} // namespace desktop_qt

@@ -1,0 +1,80 @@
+#include "desktop/qt/ControlPeer.h"
+
+#include <QLabel>
+
+namespace desktop_qt {
+
+namespace {
+
+// On the white ground of a board: grey enough to look out of play, dark enough to be read.
+const QColor kGreyedText(0x80, 0x80, 0x80);
+const QColor kBorder(0xA0, 0xA0, 0xA0);
+
+Qt::Alignment alignment(toolkit::Alignment align) {
+    switch (align) {
+    case toolkit::Alignment::Right:
+        return Qt::AlignRight | Qt::AlignTop;
+    case toolkit::Alignment::Centre:
+        return Qt::AlignHCenter | Qt::AlignTop;
+    default:
+        return Qt::AlignLeft | Qt::AlignTop;
+    }
+}
+
+class LabelPeer final : public ControlPeer {
+public:
+    LabelPeer(toolkit::Label& label, QLabel* widget)
+        : ControlPeer(label, widget), label_(label), widget_(widget) {
+        widget->setTextFormat(Qt::PlainText);
+        widget->setAlignment(alignment(label.TextAlign));
+        widget->setWordWrap(!label.AutoSize && !label.BorderStyle);
+        if (label.BorderStyle) {
+            widget->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+            widget->setAlignment(Qt::AlignCenter);
+        }
+        showCaption();
+        showLook();
+    }
+
+    void showCaption() override {
+        widget_->setText(text(label_.Caption));
+        if (label_.AutoSize)
+            widget_->resize(widget_->size().expandedTo(widget_->sizeHint()));
+        speak();
+    }
+
+    void showLook() override {
+        ControlPeer::showLook();
+        QPalette palette;
+        if (label_.ForeColor != toolkit::kThemeColour)
+            palette.setColor(QPalette::WindowText, colour(label_.ForeColor));
+        if (label_.BackColor != toolkit::kThemeColour) {
+            palette.setColor(QPalette::Window, colour(label_.BackColor));
+            palette.setColor(QPalette::Disabled, QPalette::WindowText, kGreyedText);
+            for (const auto edge : {QPalette::Dark, QPalette::Light})
+                palette.setColor(edge, kBorder);
+            widget_->setAutoFillBackground(true);
+        }
+        widget_->setPalette(palette);
+        speak();
+    }
+
+private:
+    void speak() {
+        if (!label_.speaksMarks)
+            return;
+        const bool drawn = label_.ForeColor == toolkit::kRed;
+        widget_->setAccessibleName(text(label_.Caption) + (drawn ? QStringLiteral(", drawn") : ""));
+    }
+
+    toolkit::Label& label_;
+    QLabel* widget_;
+};
+
+} // namespace
+
+std::unique_ptr<ControlPeer> makeLabel(toolkit::Label& label, QWidget* parent) {
+    return std::make_unique<LabelPeer>(label, new QLabel(parent));
+}
+
+} // namespace desktop_qt

@@ -1,0 +1,26 @@
+#include "desktop/qt/Look.h"
+
+namespace desktop_qt {
+
+QColor colour(toolkit::Colour bgr) { return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF}; }
+
+QFont font(const toolkit::Font& design, bool bold) {
+    QFont font;
+    font.setFamilies({text(design.name), QStringLiteral("Liberation Sans")});
+    font.setPixelSize(qRound(design.size * 96 / 72));
+    font.setBold(bold);
+    font.setItalic(design.italic);
+    font.setUnderline(design.underline);
+    return font;
+}
+
+QIcon picture(const std::string& name) {
+    return QIcon(QStringLiteral(":/pictures/%1.svg").arg(text(name)));
+}
+
+QRect rectangle(const toolkit::Control& control) {
+    return {pixels(control.Left), pixels(control.Top), pixels(control.Width),
+            pixels(control.Height)};
+}
+
+} // namespace desktop_qt

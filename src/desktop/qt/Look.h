@@ -1,0 +1,33 @@
+// The toolkit's units and values in Qt's.
+#pragma once
+
+#include "toolkit/Control.h"
+
+#include <QColor>
+#include <QFont>
+#include <QIcon>
+#include <QRect>
+#include <QString>
+
+namespace desktop_qt {
+
+inline constexpr double kTwipsPerPixel = 15;
+
+inline int pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
+inline double twips(int pixels) { return pixels * kTwipsPerPixel; }
+
+inline QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+// Blue-green-red to a colour.
+QColor colour(toolkit::Colour bgr);
+
+// The design font, its weight overridden by FontBold. Its size is in logical pixels, as all else on
+// a form, so that texts fit their controls at every resolution.
+QFont font(const toolkit::Font& design, bool bold);
+
+// A picture of the program, by its name. It is drawn anew for every size, so it stays sharp.
+QIcon picture(const std::string& name);
+
+QRect rectangle(const toolkit::Control& control);
+
+} // namespace desktop_qt

@@ -1,0 +1,42 @@
+#include "desktop/qt/ControlPeer.h"
+
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace desktop_qt {
+
+namespace {
+
+class OptionButtonPeer final : public ControlPeer {
+public:
+    OptionButtonPeer(toolkit::OptionButton& option, QRadioButton* widget)
+        : ControlPeer(option, widget), option_(option), widget_(widget) {
+        showCaption();
+        widget->setChecked(option.Value);
+        QObject::connect(widget, &QRadioButton::toggled, widget, [this](bool checked) {
+            if (checked)
+                option_.click();
+        });
+    }
+
+    void changed(toolkit::Prop which) override {
+        if (which != toolkit::Prop::Value)
+            return ControlPeer::changed(which);
+        const QSignalBlocker quiet(widget_);
+        widget_->setChecked(option_.Value);
+    }
+
+    void showCaption() override { widget_->setText(text(option_.Caption)); }
+
+private:
+    toolkit::OptionButton& option_;
+    QRadioButton* widget_;
+};
+
+} // namespace
+
+std::unique_ptr<ControlPeer> makeOptionButton(toolkit::OptionButton& option, QWidget* parent) {
+    return std::make_unique<OptionButtonPeer>(option, new QRadioButton(parent));
+}
+
+} // namespace desktop_qt

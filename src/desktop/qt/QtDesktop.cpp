@@ -1,0 +1,254 @@
+#include "desktop/qt/QtDesktop.h"
+
+#include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/Keys.h"
+#include "desktop/qt/Windows.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSessionManager>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <QWindow>
+
+namespace desktop_qt {
+
+using toolkit::Control;
+using toolkit::Form;
+using toolkit::MessageBox;
+
+namespace {
+
+constexpr int kExposeTime = 250; // milliseconds that a window gets to come up
+
+// Lets the window come up on the screen. Nothing of the program runs meanwhile: what the user does
+// stays in the queue, and no timer of the program is as short.
+void waitUntilShown(QWidget& window) {
+    QTimer wake;
+    wake.setSingleShot(true);
+    wake.start(kExposeTime);
+    while (wake.isActive() && window.windowHandle() && !window.windowHandle()->isExposed())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
+    window.repaint();
+}
+
+QMessageBox::Icon icon(MessageBox::Icon which) {
+    switch (which) {
+    case MessageBox::Icon::Critical:
+        return QMessageBox::Critical;
+    case MessageBox::Icon::Question:
+        return QMessageBox::Question;
+    case MessageBox::Icon::Exclamation:
+        return QMessageBox::Warning;
+    default:
+        return QMessageBox::Information;
+    }
+}
+
+QMessageBox::StandardButtons buttons(MessageBox::Buttons which) {
+    switch (which) {
+    case MessageBox::Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MessageBox::Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MessageBox::Buttons::AbortRetryIgnore:
+        return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+constexpr std::pair<toolkit::Button, QMessageBox::StandardButton> kAnswers[] = {
+    {toolkit::OK, QMessageBox::Ok},       {toolkit::Cancel, QMessageBox::Cancel},
+    {toolkit::Abort, QMessageBox::Abort}, {toolkit::Retry, QMessageBox::Retry},
+    {toolkit::Ignore, QMessageBox::Ignore}, {toolkit::Yes, QMessageBox::Yes},
+    {toolkit::No, QMessageBox::No}};
+
+// The button of the form that Esc or Enter presses.
+toolkit::CommandButton* buttonWith(Form& form, bool toolkit::CommandButton::*role) {
+    for (Control* control : form.controls())
+        if (auto* const button = dynamic_cast<toolkit::CommandButton*>(control);
+            button && button->*role)
+            return button;
+    return nullptr;
+}
+
+// Esc presses the Cancel button. Enter presses the button with the focus, else the Default button.
+bool pressButton(int key, Form& form, Control* focused) {
+    toolkit::CommandButton* button = nullptr;
+    if (key == Qt::Key_Escape) {
+        button = buttonWith(form, &toolkit::CommandButton::Cancel);
+    } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        button = dynamic_cast<toolkit::CommandButton*>(focused);
+        if (!button && !dynamic_cast<toolkit::MSFlexGrid*>(focused))
+            button = buttonWith(form, &toolkit::CommandButton::Default);
+    }
+    if (button)
+        button->click();
+    return button != nullptr;
+}
+
+} // namespace
+
+QtDesktop::QtDesktop(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+
+QtDesktop::~QtDesktop() = default;
+
+QApplication& QtDesktop::application() {
+    if (application_)
+        return *application_;
+    QApplication::setApplicationName(QStringLiteral("quorvanta"));
+    QApplication::setDesktopFileName(QStringLiteral("quorvanta"));
+    application_ = std::make_unique<QApplication>(argc_, argv_);
+    application_->setQuitOnLastWindowClosed(false); // the list of loaded forms decides
+    application_->installEventFilter(this);
+    connect(application_.get(), &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
+        if (Control* const control = controlOf(now))
+            toolkit::Screen.focusMoved(*control);
+    });
+    connect(application_.get(), &QGuiApplication::commitDataRequest, this, [this] {
+        if (sessionEnds_)
+            sessionEnds_();
+    });
+    return *application_;
+}
+
+int QtDesktop::run() {
+    if (toolkit::Forms.Count() == 0)
+        return 0;
+    return QApplication::exec();
+}
+
+void QtDesktop::whenReadable(int descriptor, std::function<void()> ready) {
+    application();
+    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [ready = std::move(ready)] { ready(); });
+}
+
+FrameWindow* QtDesktop::frame() const {
+    for (int i = 0; i < toolkit::Forms.Count(); ++i)
+        if (const auto* const peer = dynamic_cast<FormPeer*>(toolkit::Forms(i).peer()))
+            if (auto* const frame = dynamic_cast<FrameWindow*>(peer->window()))
+                return frame;
+    return nullptr;
+}
+
+void QtDesktop::open(Form& form) {
+    application();
+    if (form.kind == Form::Kind::MDIFrame)
+        form.attach(makeFrameWindow(form));
+    else if (FrameWindow* const around = frame(); around && form.kind == Form::Kind::MDIChild)
+        form.attach(makePageWindow(form, *around));
+    else
+        form.attach(makeTopLevelWindow(form));
+}
+
+void QtDesktop::show(Form& form, bool modal) {
+    auto* const peer = dynamic_cast<FormPeer*>(form.peer());
+    if (!peer)
+        return;
+    const QPointer<QWidget> window = peer->window();
+    if (modal)
+        window->setWindowModality(Qt::ApplicationModal);
+    peer->show();
+    if (modal) {
+        QEventLoop loop;
+        connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
+        loop.exec();
+    } else if (form.kind == Form::Kind::TopLevel) {
+        waitUntilShown(*window);
+    }
+}
+
+void QtDesktop::close(Form& form) { form.attach(nullptr); }
+
+void QtDesktop::focus(Control& control) {
+    if (QWidget* const widget = widgetOf(control))
+        widget->setFocus(Qt::OtherFocusReason);
+}
+
+int QtDesktop::messageBox(const MessageBox& box) {
+    application();
+    QMessageBox window(icon(box.icon), text(box.title),
+                       text(box.text).replace(QLatin1String("\r\n"), QLatin1String("\n")),
+                       buttons(box.buttons), QApplication::activeWindow());
+    window.setTextFormat(Qt::PlainText);
+    const toolkit::Button standard = box.defaultAnswer();
+    for (const auto& [number, button] : kAnswers)
+        if (number == standard)
+            window.setDefaultButton(button);
+    const int chosen = window.exec();
+    for (const auto& [number, button] : kAnswers)
+        if (button == chosen)
+            return number;
+    return 0;
+}
+
+void QtDesktop::doEvents() { QCoreApplication::processEvents(); }
+
+double QtDesktop::screenWidth() {
+    application();
+    return twips(QGuiApplication::primaryScreen()->size().width());
+}
+
+double QtDesktop::screenHeight() {
+    application();
+    return twips(QGuiApplication::primaryScreen()->size().height());
+}
+
+void QtDesktop::help(Form& /*owner*/, const std::string& /*file*/) {}
+
+void QtDesktop::endLoop() {
+    // Queued, since the event that runs may show another form.
+    QTimer::singleShot(0, this, [] {
+        if (toolkit::Forms.Count() == 0)
+            QCoreApplication::quit();
+    });
+}
+
+// Every key goes through the window before the widget with the focus, once. Keys of a message box
+// or an opened menu go to windows of their own.
+bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && watched->isWindowType())
+        return previewKey(*static_cast<QKeyEvent*>(event), watched);
+    return QObject::eventFilter(watched, event);
+}
+
+bool QtDesktop::previewKey(QKeyEvent& key, QObject* window) {
+    QWidget* const focusWidget = QApplication::focusWidget();
+    Control* focused = controlOf(focusWidget);
+    Form* form = focused ? &focused->form() : nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (!form && widget->windowHandle() == window)
+            form = formOf(widget);
+    if (!form || QApplication::activePopupWidget())
+        return false;
+
+    const auto keep = form->shared_from_this();
+    // A handler that unloads the form has used the key up.
+    const auto dropped = [&](int code) { return code == 0 || !form->loaded(); };
+    int code = keyCode(key);
+    const int shift = shiftMask(key);
+    form->previewKeyDown(code, shift);
+    if (dropped(code))
+        return true;
+    if (focused)
+        focused->keyDown(code, shift);
+    if (dropped(code))
+        return true;
+    if (int ascii = keyAscii(key); ascii != 0) {
+        form->previewKeyPress(ascii);
+        if (focused && form->loaded() && ascii != 0)
+            focused->keyPress(ascii);
+        if (dropped(ascii))
+            return true;
+    }
+    return pressButton(key.key(), *form, focused);
+}
+
+} // namespace desktop_qt

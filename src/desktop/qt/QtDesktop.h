@@ -1,0 +1,60 @@
+// The desktop of Qt Widgets: shows the toolkit's forms as real windows, and turns what the user
+// does into the toolkit's events.
+#pragma once
+
+#include "toolkit/Desktop.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QApplication;
+class QKeyEvent;
+class QWidget;
+
+namespace desktop_qt {
+
+class FrameWindow;
+
+class QtDesktop : public QObject, public toolkit::Desktop {
+public:
+    // Nothing is opened until the first form or message box needs it, so a start that is refused
+    // costs little. `argc` must live as long as the desktop.
+    QtDesktop(int& argc, char** argv);
+    ~QtDesktop() override;
+
+    // Runs the event loop until no form is left. Gives the exit code.
+    int run();
+
+    // Calls `wanted` from the event loop when the session ends.
+    void whenSessionEnds(std::function<void()> wanted) { sessionEnds_ = std::move(wanted); }
+    // Calls `ready` from the event loop when the descriptor has something to read.
+    void whenReadable(int descriptor, std::function<void()> ready);
+
+    void open(toolkit::Form& form) override;
+    void show(toolkit::Form& form, bool modal) override;
+    void close(toolkit::Form& form) override;
+    void focus(toolkit::Control& control) override;
+    int messageBox(const toolkit::MessageBox& box) override;
+    void doEvents() override;
+    double screenWidth() override;
+    double screenHeight() override;
+    void help(toolkit::Form& owner, const std::string& file) override;
+    void endLoop() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QApplication& application();
+    FrameWindow* frame() const;
+    bool previewKey(QKeyEvent& key, QObject* window);
+
+    int& argc_;
+    char** argv_;
+    std::unique_ptr<QApplication> application_;
+    std::function<void()> sessionEnds_;
+};
+
+} // namespace desktop_qt

@@ -1,0 +1,45 @@
+#include "desktop/qt/ControlPeer.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+namespace desktop_qt {
+
+namespace {
+
+class StatusBarPeer final : public ControlPeer {
+public:
+    StatusBarPeer(toolkit::StatusBar& bar, QStatusBar* widget)
+        : ControlPeer(bar, widget), bar_(bar), panel_(new QLabel(widget)) {
+        widget->setSizeGripEnabled(false);
+        panel_->setTextFormat(Qt::PlainText);
+        panel_->setFont(widget->font());
+        widget->addWidget(panel_, 1);
+        showText();
+    }
+
+    void changed(toolkit::Prop which) override {
+        if (which == toolkit::Prop::Text)
+            showText();
+        else
+            ControlPeer::changed(which);
+    }
+
+private:
+    void showText() {
+        const QString shown = text(bar_.Panels(1));
+        panel_->setText(shown);
+        panel_->setAccessibleName(shown.isEmpty() ? QStringLiteral("Status") : shown);
+    }
+
+    toolkit::StatusBar& bar_;
+    QLabel* panel_;
+};
+
+} // namespace
+
+std::unique_ptr<ControlPeer> makeStatusBar(toolkit::StatusBar& bar, QWidget* parent) {
+    return std::make_unique<StatusBarPeer>(bar, new QStatusBar(parent));
+}
+
+} // namespace desktop_qt

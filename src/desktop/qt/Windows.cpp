@@ -1,0 +1,256 @@
+#include "desktop/qt/Windows.h"
+
+#include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/Menu.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <algorithm>
+
+namespace desktop_qt {
+
+using toolkit::Form;
+using toolkit::Prop;
+
+namespace {
+
+constexpr const char* kForm = "toolkitForm"; // the property that holds a window's form
+
+void mark(QWidget* window, Form& form) {
+    window->setObjectName(text(form.name()));
+    window->setProperty(kForm, QVariant::fromValue<void*>(&form));
+    window->setWindowIcon(picture("quorvanta"));
+}
+
+void collect(const toolkit::Container& container, std::vector<toolkit::Control*>& all) {
+    for (toolkit::Control* control : container.controls()) {
+        all.push_back(control);
+        if (const auto* const inner = dynamic_cast<const toolkit::Container*>(control))
+            collect(*inner, all);
+    }
+}
+
+// Tab visits the controls by their TabIndex; the first one that can have the focus gets it.
+void orderTabs(Form& form, QWidget* content) {
+    std::vector<toolkit::Control*> order;
+    collect(form, order);
+    std::stable_sort(order.begin(), order.end(),
+                     [](auto* a, auto* b) { return a->TabIndex < b->TabIndex; });
+    QWidget* before = nullptr;
+    for (toolkit::Control* control : order) {
+        QWidget* const widget = widgetOf(*control);
+        if (!widget || (widget->focusPolicy() & Qt::TabFocus) == 0)
+            continue;
+        if (before)
+            QWidget::setTabOrder(before, widget);
+        else
+            content->setFocusProxy(widget);
+        before = widget;
+    }
+}
+
+QWidget* makeContent(Form& form, QWidget* parent) {
+    auto* const content = new QWidget(parent);
+    content->setFixedSize(pixels(form.clientWidth), pixels(form.clientHeight));
+    if (form.BackColor != toolkit::kThemeColour) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, colour(form.BackColor));
+        content->setPalette(palette);
+        content->setAutoFillBackground(true);
+    }
+    makePeers(form, content);
+    orderTabs(form, content);
+    return content;
+}
+
+class PageWindow final : public QMdiSubWindow {
+public:
+    explicit PageWindow(Form& form) : form_(form) {}
+
+    void setMenus(const QList<QAction*>& menus) { menus_ = menus; }
+    const QList<QAction*>& menus() const { return menus_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore(); // unloading the form takes the window away
+        if (property(kForm).isValid())
+            form_.Unload(toolkit::FormControlMenu);
+    }
+    void moveEvent(QMoveEvent* event) override {
+        QMdiSubWindow::moveEvent(event);
+        if (property(kForm).isValid()) {
+            form_.Left.assume(twips(x()));
+            form_.Top.assume(twips(y()));
+        }
+    }
+
+private:
+    Form& form_;
+    QList<QAction*> menus_;
+};
+
+class PagePeer final : public FormPeer {
+public:
+    PagePeer(Form& form, PageWindow* page, FrameWindow& frame)
+        : FormPeer(form, page), page_(page), frame_(frame) {}
+    ~PagePeer() override {
+        if (!window_)
+            return;
+        const bool wasActive = area().currentSubWindow() == page_;
+        area().removeSubWindow(page_);
+        page_->hide();
+        // The page below comes to the front, with the keyboard.
+        const auto rest = area().subWindowList(QMdiArea::StackingOrder);
+        if (wasActive && !rest.isEmpty())
+            area().setActiveSubWindow(rest.last());
+        frame_.swapMenus();
+    }
+
+    void show() override {
+        page_->show();
+        area().setActiveSubWindow(page_);
+        page_->widget()->setFocus(Qt::ActiveWindowFocusReason);
+    }
+
+private:
+    QMdiArea& area() const { return *frame_.area(); }
+
+    PageWindow* page_;
+    FrameWindow& frame_;
+};
+
+class TopLevelWindow final : public QWidget {
+public:
+    explicit TopLevelWindow(Form& form)
+        : QWidget(nullptr, form.Borderless ? Qt::SplashScreen
+                                           : Qt::Dialog | Qt::WindowTitleHint |
+                                                 Qt::WindowSystemMenuHint |
+                                                 Qt::WindowCloseButtonHint),
+          form_(form) {}
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        if (property(kForm).isValid())
+            form_.Unload(toolkit::FormControlMenu);
+    }
+
+private:
+    Form& form_;
+};
+
+} // namespace
+
+FormPeer::~FormPeer() {
+    if (!window_)
+        return;
+    window_->setProperty(kForm, {});
+    window_->hide();
+    window_->deleteLater(); // an event of the window may be running
+}
+
+void FormPeer::changed(Prop which) {
+    switch (which) {
+    case Prop::Caption:
+        return window_->setWindowTitle(text(form_.Caption));
+    case Prop::Left:
+    case Prop::Top:
+        return window_->move(pixels(form_.Left), pixels(form_.Top));
+    default:
+        return;
+    }
+}
+
+void FormPeer::show() {
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
+FrameWindow::FrameWindow(Form& form) : form_(&form), area_(new QMdiArea(this)) {
+    mark(this, form);
+    setContextMenuPolicy(Qt::PreventContextMenu); // the toolbar stays
+    area_->setBackground(palette().brush(QPalette::Dark));
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+    makePeers(form, this);
+    for (toolkit::Control* control : form.controls())
+        if (auto* const toolbar = qobject_cast<QToolBar*>(widgetOf(*control)))
+            addToolBar(toolbar);
+        else if (auto* const status = qobject_cast<QStatusBar*>(widgetOf(*control)))
+            setStatusBar(status);
+    menus_ = makeMenus(form, this);
+    swapMenus();
+    resize(pixels(form.clientWidth), pixels(form.clientHeight) + menuBar()->sizeHint().height());
+    connect(area_, &QMdiArea::subWindowActivated, this, [this] { swapMenus(); });
+}
+
+void FrameWindow::swapMenus() {
+    const auto* const page = dynamic_cast<PageWindow*>(area_->currentSubWindow());
+    const QList<QAction*>& menus = page && formOf(page) ? page->menus() : menus_;
+    if (menuBar()->actions() == menus)
+        return;
+    for (QAction* old : menuBar()->actions())
+        menuBar()->removeAction(old);
+    menuBar()->addActions(menus);
+    if (page && formOf(page))
+        toolkit::Screen.activated(*formOf(page));
+}
+
+void FrameWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (Form* const form = formOf(this))
+        form->Unload(toolkit::FormControlMenu);
+}
+
+bool FrameWindow::event(QEvent* event) {
+    const bool result = QMainWindow::event(event);
+    const bool moved = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+    if (Form* const form = formOf(this); form && moved && isVisible()) {
+        form->Left.assume(twips(frameGeometry().x()));
+        form->Top.assume(twips(frameGeometry().y()));
+        form->Width.assume(twips(frameGeometry().width()));
+        form->Height.assume(twips(frameGeometry().height()));
+    }
+    return result;
+}
+
+std::unique_ptr<FormPeer> makeFrameWindow(Form& form) {
+    auto* const window = new FrameWindow(form);
+    form.setBorders(0, twips(window->menuBar()->sizeHint().height()));
+    return std::make_unique<FormPeer>(form, window);
+}
+
+std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
+    auto* const page = new PageWindow(form);
+    mark(page, form);
+    page->setWidget(makeContent(form, page));
+    page->setMenus(makeMenus(form, page));
+    page->setAttribute(Qt::WA_DeleteOnClose, false);
+    frame.area()->addSubWindow(page, Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    page->setFixedSize(page->sizeHint());
+    form.setBorders(twips(page->width()) - form.clientWidth,
+                    twips(page->height()) - form.clientHeight);
+    return std::make_unique<PagePeer>(form, page, frame);
+}
+
+std::unique_ptr<FormPeer> makeTopLevelWindow(Form& form) {
+    auto* const window = new TopLevelWindow(form);
+    mark(window, form);
+    QWidget* const content = makeContent(form, window);
+    window->setFixedSize(content->size());
+    window->setFocusProxy(content->focusProxy());
+    return std::make_unique<FormPeer>(form, window);
+}
+
+Form* formOf(const QWidget* window) {
+    const QVariant form = window ? window->property(kForm) : QVariant();
+    return form.isValid() ? static_cast<Form*>(form.value<void*>()) : nullptr;
+}
+
+} // namespace desktop_qt

@@ -1,0 +1,34 @@
+// Composes the platform, the desktop and the program, and runs it.
+
+#include "desktop/qt/QtDesktop.h"
+#include "frame/MainCode_ZW.h"
+#include "platform/Platform.h"
+#include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxFiles.h"
+#include "platform/linux/LinuxLocale.h"
+#include "platform/linux/LinuxMachine.h"
+#include "platform/linux/LinuxProcess.h"
+#include "platform/linux/LinuxSettings.h"
+
+int main(int argc, char** argv) {
+    platform_linux::LinuxProcess process;
+    platform_linux::LinuxClock clock;
+    platform_linux::LinuxRandom random;
+    platform_linux::LinuxSettings settings;
+    platform_linux::LinuxFiles files;
+    platform_linux::LinuxLocale locale;
+    platform_linux::LinuxMachine machine;
+    const platform::Platform all{process, clock, random, settings, files, locale, machine};
+    platform::install(&all);
+
+    desktop_qt::QtDesktop desktop(argc, argv);
+    toolkit::install(&desktop);
+    toolkit::App.Path = files.programDirectory();
+    toolkit::App.PrevInstance = process.prevInstance();
+
+    quorvanta::Main();
+
+    desktop.whenSessionEnds(quorvanta::EndRunForSystem);
+    desktop.whenReadable(platform_linux::LinuxProcess::endRequests(), quorvanta::EndRunForSystem);
+    return desktop.run();
+}

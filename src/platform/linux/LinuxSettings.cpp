@@ -1,0 +1,37 @@
+#include "platform/linux/LinuxSettings.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QSettings>
+
+namespace platform_linux {
+
+namespace {
+
+QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+// The section's trailing blank would be lost in a group's name.
+QString keyPath(const std::string& section, const std::string& key) {
+    return text(section).trimmed() + QLatin1Char('/') + text(key);
+}
+
+} // namespace
+
+std::string LinuxSettings::get(const std::string& application, const std::string& section,
+                               const std::string& key, const std::string& fallback) const {
+    const QSettings store(QSettings::IniFormat, QSettings::UserScope, text(application),
+                          QStringLiteral("quorvanta"));
+    return store.value(keyPath(section, key), text(fallback)).toString().toStdString();
+}
+
+void LinuxSettings::save(const std::string& application, const std::string& section,
+                         const std::string& key, const std::string& value) {
+    QSettings store(QSettings::IniFormat, QSettings::UserScope, text(application),
+                    QStringLiteral("quorvanta"));
+    store.setValue(keyPath(section, key), text(value));
+    store.sync(); // the run may end without another chance
+    if (store.status() != QSettings::NoError)
+        throw platform::RuntimeError(platform::PathAccess);
+}
+
+} // namespace platform_linux
