@@ -1,0 +1,158 @@
+#include "platform/linux/Pictures.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace platform {
+
+namespace {
+
+bool isLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+// The letters of a picture for `count` times the letter of a pattern.
+std::string fieldOf(char letter, std::size_t count) {
+    switch (letter) {
+    case 'y':
+    case 'u':
+        return "yyyy";
+    case 'L':
+    case 'M':
+        return std::string(std::min<std::size_t>(count, 4), 'M');
+    case 'd':
+        return std::string(count, 'd');
+    case 'E':
+    case 'c':
+        return count == 4 ? "dddd" : "ddd";
+    case 'a':
+    case 'b':
+    case 'B':
+        return "tt";
+    case 'K':
+        return std::string(count, 'h');
+    case 'k':
+        return std::string(count, 'H');
+    case 'h':
+    case 'H':
+    case 'm':
+    case 's':
+        return std::string(count, letter);
+    default:
+        return {};
+    }
+}
+
+// A picture needs quotes around every text that isn't plain punctuation.
+void appendText(std::string& picture, const std::string& text) {
+    const bool plain =
+        std::none_of(text.begin(), text.end(), [](char c) { return isLetter(c) || (c & 0x80); });
+    picture += plain ? text : "'" + text + "'";
+}
+
+std::string trimmed(std::string text) {
+    constexpr const char* kEdges = " ,";
+    const std::size_t first = text.find_first_not_of(kEdges);
+    return first == std::string::npos
+               ? std::string()
+               : text.substr(first, text.find_last_not_of(kEdges) - first + 1);
+}
+
+// "¤ #,##0.00;¤-#,##0.00" as {"$ 1", "$-1"}, and without a second half as {.., "-$ 1"}.
+struct CurrencyForms {
+    std::string positive, negative;
+};
+
+CurrencyForms currencyForms(std::string_view pattern) {
+    std::string forms[2];
+    std::size_t which = 0;
+    for (std::size_t at = 0; at < pattern.size(); ++at) {
+        std::string& form = forms[which];
+        if (pattern[at] == ';')
+            which = 1;
+        else if (pattern.substr(at).starts_with("¤"))
+            form += '$';
+        else if (pattern.substr(at).starts_with("\u00A0"))
+            form += ' ';
+        else if (pattern[at] == '#' || pattern[at] == '0')
+            form += form.ends_with('1') ? "" : "1";
+        else if (std::string_view(" -()").find(pattern[at]) != std::string_view::npos)
+            form += pattern[at];
+    }
+    return {forms[0], forms[1].empty() ? "-" + forms[0] : forms[1]};
+}
+
+template <std::size_t N>
+int indexOf(const std::string& form, const char* const (&forms)[N]) {
+    const auto it = std::find(std::begin(forms), std::end(forms), form);
+    return it == std::end(forms) ? -1 : static_cast<int>(it - std::begin(forms));
+}
+
+} // namespace
+
+std::string pictureOf(std::string_view pattern) {
+    std::string picture, text;
+    for (std::size_t at = 0; at < pattern.size();) {
+        const char c = pattern[at];
+        if (isLetter(c)) {
+            appendText(picture, text);
+            text.clear();
+            const std::size_t end = std::min(pattern.find_first_not_of(c, at), pattern.size());
+            picture += fieldOf(c, end - at);
+            at = end;
+        } else if (c == '\'') {
+            const std::size_t end = std::min(pattern.find('\'', at + 1), pattern.size());
+            // Two quotes in a row are one in the text, and in a picture again two.
+            text += end == at + 1 ? "''" : pattern.substr(at + 1, end - at - 1);
+            at = end + 1;
+        } else if (c == ' ' || c == ',') {
+            appendText(picture, text);
+            picture += c;
+            text.clear();
+            ++at;
+        } else {
+            text += c;
+            ++at;
+        }
+    }
+    appendText(picture, text);
+    return trimmed(picture);
+}
+
+std::string withoutDayName(std::string_view picture) {
+    std::string rest(picture);
+    const std::size_t at = rest.find("dddd");
+    if (at == std::string::npos)
+        return rest;
+    return trimmed(rest.erase(at, 4));
+}
+
+std::string separatorOf(std::string_view picture) {
+    const std::size_t from =
+        std::find_if_not(picture.begin(), picture.end(), isLetter) - picture.begin();
+    const std::size_t to =
+        std::find_if(picture.begin() + from, picture.end(), isLetter) - picture.begin();
+    return std::string(picture.substr(from, to - from));
+}
+
+int dateOrder(std::string_view picture) {
+    // The name of the day isn't the day.
+    const std::string plain = withoutDayName(picture);
+    const std::size_t year = plain.find('y'), month = plain.find('M'), day = plain.find('d');
+    if (year < month && year < day)
+        return 2;
+    return month < day ? 0 : 1;
+}
+
+int positiveCurrencyMode(std::string_view pattern) {
+    return std::max(indexOf(currencyForms(pattern).positive, {"$1", "1$", "$ 1", "1 $"}), 0);
+}
+
+int negativeCurrencyMode(std::string_view pattern) {
+    const int mode = indexOf(currencyForms(pattern).negative,
+                             {"($1)", "-$1", "$-1", "$1-", "(1$)", "-1$", "1-$", "1$-", "-1 $",
+                              "-$ 1", "1 $-", "$ 1-", "$ -1", "1- $", "($ 1)", "(1 $)"});
+    return std::max(mode, 1);
+}
+
+} // namespace platform
