@@ -1,0 +1,86 @@
+#include "common/cLocalSettings.h"
+
+#include "common/Conversions.h"
+#include "common/Trap.h"
+#include "platform/Platform.h"
+
+#include <algorithm>
+
+namespace quorvanta {
+
+namespace {
+
+constexpr int kBufferLength = 99; // one less than the buffer, which so always ends in a blank
+
+std::string asText(const std::string& bytes) {
+    return platform::current().locale.fromBytes(bytes);
+}
+
+std::string nameFrom(bool (platform::Machine::*ask)(char*, int) const) {
+    std::string buffer(256, '\0');
+    (platform::current().machine.*ask)(buffer.data(), static_cast<int>(buffer.size()));
+    return asText(cLocalSettings::StringFromBuffer(buffer));
+}
+
+std::string directoryFrom(int (platform::Machine::*ask)(char*, int) const, const char* label) {
+    std::string directory;
+    trapped(label, [&](auto step) {
+        std::string buffer(255, ' ');
+        int length = 0;
+        step([&] {
+            length =
+                (platform::current().machine.*ask)(buffer.data(), static_cast<int>(buffer.size()));
+        });
+        step([&] {
+            if (length != 0)
+                directory = asText(cLocalSettings::StringFromBuffer(buffer));
+        });
+    });
+    return directory;
+}
+
+} // namespace
+
+std::string cLocalSettings::prpComputerUserName() {
+    mvarComputerUserName = nameFrom(&platform::Machine::GetUserNameA);
+    return mvarComputerUserName;
+}
+
+std::string cLocalSettings::prpComputerName() {
+    mvarComputerName = nameFrom(&platform::Machine::GetComputerNameA);
+    return mvarComputerName;
+}
+
+std::string cLocalSettings::prpMetrics() {
+    const std::string value = localeText(platform::LOCALE_IMEASURE);
+    const double system = CDbl(value);
+    if (system == 0)
+        return "Metric";
+    return system == 1 ? "US" : value;
+}
+
+std::string cLocalSettings::StringFromBuffer(std::string_view buffer) {
+    const std::size_t end = buffer.find('\0');
+    return std::string(buffer.substr(0, end == std::string_view::npos ? 0 : end));
+}
+
+std::string cLocalSettings::localeText(platform::LocaleItem item) {
+    const int length = platform::current().locale.GetLocaleInfoA(
+        platform::LOCALE_USER_DEFAULT, item, mstrBuffer.data(), kBufferLength);
+    mstrLocaleLength = std::to_string(length);
+    mstrLocaleValue = StringFromBuffer({mstrBuffer.data(), mstrBuffer.size()});
+    const auto rest = std::copy(mstrLocaleValue.begin(), mstrLocaleValue.end(), mstrBuffer.begin());
+    std::fill(rest, mstrBuffer.end(), ' ');
+    return asText(mstrLocaleValue);
+}
+
+std::string cLocalSettings::GetWindowsDir() {
+    return directoryFrom(&platform::Machine::GetWindowsDirectoryA, "cLocalSettings.GetWindowsDir");
+}
+
+std::string cLocalSettings::GetWindowsSysDir() {
+    return directoryFrom(&platform::Machine::GetSystemDirectoryA,
+                         "cLocalSettings.GetWindowsSysDir");
+}
+
+} // namespace quorvanta

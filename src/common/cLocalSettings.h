@@ -1,0 +1,96 @@
+// The machine and the user's locale, asked afresh at every read.
+#pragma once
+
+#include "platform/LocaleItems.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace quorvanta {
+
+// Every property is text, also where the locale's item is a number, and the empty text where the
+// platform has no answer. An instance serves one caller at a time.
+class cLocalSettings {
+public:
+    // The logged-on user and the computer. What is set is kept until the next read, which takes the
+    // platform's answer in its place.
+    void prpComputerUserName(const std::string& name) { mvarComputerUserName = name; }
+    std::string prpComputerUserName();
+    void prpComputerName(const std::string& name) { mvarComputerName = name; }
+    std::string prpComputerName();
+
+    std::string prpCenturyFormatSpecificer() { return localeText(platform::LOCALE_ICENTURY); }
+    std::string prpTimeFormatSpecifier() { return localeText(platform::LOCALE_ITIME); }
+    std::string prpLongDateFormatOrdering() { return localeText(platform::LOCALE_ILDATE); }
+    std::string prpShortDateFormatOrdering() { return localeText(platform::LOCALE_IDATE); }
+    std::string prpTimeFormat() { return localeText(platform::LOCALE_STIMEFORMAT); }
+    std::string prpLongDateFormat() { return localeText(platform::LOCALE_SLONGDATE); }
+    std::string prpShortDateFormat() { return localeText(platform::LOCALE_SSHORTDATE); }
+    std::string prpTimeSeperator() { return localeText(platform::LOCALE_STIME); }
+    std::string prpDateSeperator() { return localeText(platform::LOCALE_SDATE); }
+    std::string prpNegativeCurrencyMode() { return localeText(platform::LOCALE_INEGCURR); }
+    std::string prpPositiveMonetaryMode() { return localeText(platform::LOCALE_ICURRENCY); }
+    std::string prpIntlMonetaryDigits() { return localeText(platform::LOCALE_IINTLCURRDIGITS); }
+    std::string prpLocalMonetaryDigits() { return localeText(platform::LOCALE_ICURRDIGITS); }
+    std::string prpMonetaryGrouping() { return localeText(platform::LOCALE_SMONGROUPING); }
+    std::string prpMonetaryThousandSeperator() {
+        return localeText(platform::LOCALE_SMONTHOUSANDSEP);
+    }
+    std::string prpMonetaryDecimalSeperator() {
+        return localeText(platform::LOCALE_SMONDECIMALSEP);
+    }
+    std::string prpIntlMonetarySymbol() { return localeText(platform::LOCALE_SINTLSYMBOL); }
+    std::string prpLocalCurrencySymbol() { return localeText(platform::LOCALE_SCURRENCY); }
+    std::string prpNativeAscii() { return localeText(platform::LOCALE_SNATIVEDIGITS); }
+    std::string prpLeadingZeros() { return localeText(platform::LOCALE_ILZERO); }
+    std::string prpFractionalDigits() { return localeText(platform::LOCALE_IDIGITS); }
+    std::string prpDigitGrouping() { return localeText(platform::LOCALE_SGROUPING); }
+    std::string prpThousandSeperator() { return localeText(platform::LOCALE_STHOUSAND); }
+    std::string prpDecimalSeperator() { return localeText(platform::LOCALE_SDECIMAL); }
+
+    // "Metric" or "US". Raises TypeMismatch where the platform has no answer.
+    std::string prpMetrics();
+
+    std::string prpListItemSeperator() { return localeText(platform::LOCALE_SLIST); }
+    std::string prpDefaultCodePage() { return localeText(platform::LOCALE_IDEFAULTCODEPAGE); }
+    std::string prpDefaultCountryCode() { return localeText(platform::LOCALE_IDEFAULTCOUNTRY); }
+    std::string prpDefaultLanguageId() { return localeText(platform::LOCALE_IDEFAULTLANGUAGE); }
+    std::string prpNativeNameOfCountry() { return localeText(platform::LOCALE_SNATIVECTRYNAME); }
+    std::string prpAbbrevCountryName() { return localeText(platform::LOCALE_SABBREVCTRYNAME); }
+    std::string prpEnglishNameOfCountry() { return localeText(platform::LOCALE_SENGCOUNTRY); }
+    std::string prpLocalizedNameOfCountry() { return localeText(platform::LOCALE_SCOUNTRY); }
+    std::string prpCountryCode() { return localeText(platform::LOCALE_ICOUNTRY); }
+    std::string prpNativeNameOfLanguage() { return localeText(platform::LOCALE_SNATIVELANGNAME); }
+    std::string prpAbbreviatedLanguageName() {
+        return localeText(platform::LOCALE_SABBREVLANGNAME);
+    }
+    std::string prpLanguageId() { return localeText(platform::LOCALE_ILANGUAGE); }
+    std::string prpLocalLanguageName() { return localeText(platform::LOCALE_SLANGUAGE); }
+    std::string prpLocalLanguageEnglishName() { return localeText(platform::LOCALE_SENGLANGUAGE); }
+    std::string prpLocalCurrency() { return localeText(platform::LOCALE_SCURRENCY); }
+    std::string prpLocalCountry() { return localeText(platform::LOCALE_SENGCOUNTRY); }
+
+    // Where programs are looked for.
+    std::string prpWinDirectory() { return GetWindowsDir(); }
+    std::string prpWinSysDirectory() { return GetWindowsSysDir(); }
+
+    // The part of `buffer` ahead of its first NUL; empty if there is none, since a buffer without
+    // one was never filled.
+    static std::string StringFromBuffer(std::string_view buffer);
+
+private:
+    std::string localeText(platform::LocaleItem item);
+    std::string GetWindowsDir();
+    std::string GetWindowsSysDir();
+
+    // Padded with blanks after each read and never with NULs: what a failing call leaves untouched
+    // then holds no text of the read before.
+    std::array<char, 100> mstrBuffer{};
+    std::string mstrLocaleLength;
+    std::string mstrLocaleValue;
+    std::string mvarComputerName;
+    std::string mvarComputerUserName;
+};
+
+} // namespace quorvanta
