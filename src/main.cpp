@@ -11,13 +11,13 @@
 #include "platform/linux/LinuxSettings.h"
 
 int main(int argc, char** argv) {
-    platform_linux::LinuxProcess process;
-    platform_linux::LinuxClock clock;
-    platform_linux::LinuxRandom random;
-    platform_linux::LinuxSettings settings;
-    platform_linux::LinuxFiles files;
-    platform_linux::LinuxLocale locale;
-    platform_linux::LinuxMachine machine;
+    platform::LinuxProcess process;
+    platform::LinuxClock clock;
+    platform::LinuxRandom random;
+    platform::LinuxSettings settings;
+    platform::LinuxFiles files;
+    platform::LinuxLocale locale;
+    platform::LinuxMachine machine(locale);
     const platform::Platform all{process, clock, random, settings, files, locale, machine};
     platform::install(&all);
 
@@ -29,6 +29,6 @@ int main(int argc, char** argv) {
     quorvanta::Main();
 
     desktop.whenSessionEnds(quorvanta::EndRunForSystem);
-    desktop.whenReadable(platform_linux::LinuxProcess::endRequests(), quorvanta::EndRunForSystem);
+    desktop.whenReadable(platform::LinuxProcess::endRequests(), quorvanta::EndRunForSystem);
     return desktop.run();
 }

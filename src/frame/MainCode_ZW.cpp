@@ -1,27 +1,40 @@
 #include "frame/MainCode_ZW.h"
 
 #include "common/ErrorReport.h"
+#include "common/MachineRecord.h"
 #include "common/Trap.h"
+#include "common/cLocalSettings.h"
 #include "frame/MDIForm1.h"
 #include "frame/Shared.h"
 #include "frame/frmSplash.h"
 #include "platform/Platform.h"
+#include "storage/cQuorvantaLite.h"
 
 namespace quorvanta {
 
 using toolkit::App;
+
+namespace {
+constexpr const char* kHelpFile = "quorvantalite.hlp";
+}
 
 void Main() {
     toolkit::Form::untrapped = [](const toolkit::Form& form, const platform::RuntimeError& error) {
         ReportUntrapped(error, form.name());
     };
     trapped("Sub Main", [&](auto step) {
+        cLocalSettings local;
+        cQuorvantaLite store;
         if (App.PrevInstance)
             platform::current().process.end();
         step([&] { platform::current().random.seed(); });
         gintLanguage = 1;
-        step([&] { App.HelpFile = platform::current().files.join(App.Path, "quorvantalite.hlp"); });
+        step([&] { gstrWinDirectory = local.prpWinDirectory(); });
+        step([&] { gstrWinSysDirectory = local.prpWinSysDirectory(); });
+        step([&] { App.HelpFile = platform::current().files.join(App.Path, kHelpFile); });
+        step([&] { WriteSystemData(); });
         step([&] { frmSplash::the().Show(); });
+        step([&] { store.ReadLottoFile(); });
     });
 }
 
@@ -36,6 +49,7 @@ void EndApp(toolkit::Form& frm) {
     } guard;
 
     failuresOff([&](auto step) {
+        step([&] { cQuorvantaLite().WriteLottoFile(); });
         for (int i = toolkit::Forms.Count() - 1; i >= 0; --i)
             step([&] { toolkit::Forms(i).Unload(); });
         step([&] { frm.Unload(); });

@@ -11,7 +11,8 @@ namespace {
 
 constexpr const char* kControl = "toolkitControl"; // the property that holds a widget's control
 
-template <class T, class Make> bool makeIf(Control& control, QWidget* parent, Make make) {
+template <class T, class Make>
+bool makeIf(Control& control, QWidget* parent, Make make) {
     auto* const kind = dynamic_cast<T*>(&control);
     if (kind)
         control.attach(make(*kind, parent));

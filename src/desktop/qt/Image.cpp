@@ -22,8 +22,8 @@ public:
 
 private:
     void showPicture() {
-        widget_->setPixmap(picture(image_.Picture)
-                               .pixmap(widget_->size(), widget_->devicePixelRatioF()));
+        widget_->setPixmap(
+            picture(image_.Picture).pixmap(widget_->size(), widget_->devicePixelRatioF()));
     }
 
     toolkit::Image& image_;

@@ -2,7 +2,9 @@
 
 namespace desktop_qt {
 
-QColor colour(toolkit::Colour bgr) { return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF}; }
+QColor colour(toolkit::Colour bgr) {
+    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
+}
 
 QFont font(const toolkit::Font& design, bool bold) {
     QFont font;

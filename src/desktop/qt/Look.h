@@ -13,10 +13,16 @@ namespace desktop_qt {
 
 inline constexpr double kTwipsPerPixel = 15;
 
-inline int pixels(double twips) { return qRound(twips / kTwipsPerPixel); }
-inline double twips(int pixels) { return pixels * kTwipsPerPixel; }
+inline int pixels(double twips) {
+    return qRound(twips / kTwipsPerPixel);
+}
+inline double twips(int pixels) {
+    return pixels * kTwipsPerPixel;
+}
 
-inline QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+inline QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
 
 // Blue-green-red to a colour.
 QColor colour(toolkit::Colour bgr);

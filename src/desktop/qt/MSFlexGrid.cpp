@@ -138,7 +138,8 @@ protected:
 private:
     // A click on a header is a click on the grid: on the header row, or on the row it heads. The
     // view's own selecting would be in the way.
-    template <class RowOf> void hookHeader(QHeaderView* header, RowOf rowOf) {
+    template <class RowOf>
+    void hookHeader(QHeaderView* header, RowOf rowOf) {
         disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
         disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
         connect(header, &QHeaderView::sectionClicked, this, [this, rowOf](int section) {

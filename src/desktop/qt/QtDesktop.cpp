@@ -64,8 +64,8 @@ QMessageBox::StandardButtons buttons(MessageBox::Buttons which) {
 }
 
 constexpr std::pair<toolkit::Button, QMessageBox::StandardButton> kAnswers[] = {
-    {toolkit::OK, QMessageBox::Ok},       {toolkit::Cancel, QMessageBox::Cancel},
-    {toolkit::Abort, QMessageBox::Abort}, {toolkit::Retry, QMessageBox::Retry},
+    {toolkit::OK, QMessageBox::Ok},         {toolkit::Cancel, QMessageBox::Cancel},
+    {toolkit::Abort, QMessageBox::Abort},   {toolkit::Retry, QMessageBox::Retry},
     {toolkit::Ignore, QMessageBox::Ignore}, {toolkit::Yes, QMessageBox::Yes},
     {toolkit::No, QMessageBox::No}};
 
@@ -165,7 +165,9 @@ void QtDesktop::show(Form& form, bool modal) {
     }
 }
 
-void QtDesktop::close(Form& form) { form.attach(nullptr); }
+void QtDesktop::close(Form& form) {
+    form.attach(nullptr);
+}
 
 void QtDesktop::focus(Control& control) {
     if (QWidget* const widget = widgetOf(control))
@@ -189,7 +191,9 @@ int QtDesktop::messageBox(const MessageBox& box) {
     return 0;
 }
 
-void QtDesktop::doEvents() { QCoreApplication::processEvents(); }
+void QtDesktop::doEvents() {
+    QCoreApplication::processEvents();
+}
 
 double QtDesktop::screenWidth() {
     application();

@@ -125,10 +125,10 @@ private:
 class TopLevelWindow final : public QWidget {
 public:
     explicit TopLevelWindow(Form& form)
-        : QWidget(nullptr, form.Borderless ? Qt::SplashScreen
-                                           : Qt::Dialog | Qt::WindowTitleHint |
-                                                 Qt::WindowSystemMenuHint |
-                                                 Qt::WindowCloseButtonHint),
+        : QWidget(nullptr, form.Borderless
+                               ? Qt::SplashScreen
+                               : Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                     Qt::WindowCloseButtonHint),
           form_(form) {}
 
 protected:

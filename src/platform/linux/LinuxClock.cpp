@@ -3,9 +3,9 @@
 #include <chrono>
 #include <ctime>
 
-namespace platform_linux {
+namespace platform {
 
-platform::DateTime LinuxClock::now() const {
+DateTime LinuxClock::now() const {
     const std::time_t seconds = std::time(nullptr);
     std::tm local{};
     localtime_r(&seconds, &local);
@@ -14,12 +14,16 @@ platform::DateTime LinuxClock::now() const {
 }
 
 void LinuxRandom::seed() {
-    const auto ticks =
-        static_cast<unsigned long long>(std::chrono::system_clock::now().time_since_epoch().count());
+    const auto ticks = static_cast<unsigned long long>(
+        std::chrono::system_clock::now().time_since_epoch().count());
     std::random_device entropy;
-    std::seed_seq mixed{static_cast<unsigned>(ticks), static_cast<unsigned>(ticks >> 32U), entropy(),
-                        entropy(), entropy(), entropy()};
+    std::seed_seq mixed{static_cast<unsigned>(ticks),
+                        static_cast<unsigned>(ticks >> 32U),
+                        entropy(),
+                        entropy(),
+                        entropy(),
+                        entropy()};
     engine_.seed(mixed);
 }
 
-} // namespace platform_linux
+} // namespace platform

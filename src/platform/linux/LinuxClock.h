@@ -6,14 +6,14 @@
 
 #include <random>
 
-namespace platform_linux {
+namespace platform {
 
-class LinuxClock : public platform::Clock {
+class LinuxClock : public Clock {
 public:
-    platform::DateTime now() const override;
+    DateTime now() const override;
 };
 
-class LinuxRandom : public platform::Random {
+class LinuxRandom : public Random {
 public:
     void seed() override;
     float next() override {
@@ -25,4 +25,4 @@ private:
     std::mt19937 engine_;
 };
 
-} // namespace platform_linux
+} // namespace platform

@@ -9,7 +9,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-namespace platform_linux {
+namespace platform {
 
 namespace {
 
@@ -49,4 +49,4 @@ int LinuxProcess::endRequests() {
     return requestPipe[0];
 }
 
-} // namespace platform_linux
+} // namespace platform

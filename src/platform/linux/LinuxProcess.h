@@ -4,9 +4,9 @@
 
 #include "platform/Process.h"
 
-namespace platform_linux {
+namespace platform {
 
-class LinuxProcess : public platform::Process {
+class LinuxProcess : public Process {
 public:
     // Takes the lock of the user's one instance, which lies in the runtime directory. The kernel
     // gives it up with the process, however that ends.
@@ -23,4 +23,4 @@ private:
     bool another_ = false;
 };
 
-} // namespace platform_linux
+} // namespace platform

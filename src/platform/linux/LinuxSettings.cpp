@@ -4,11 +4,13 @@
 
 #include <QSettings>
 
-namespace platform_linux {
+namespace platform {
 
 namespace {
 
-QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
 
 // The section's trailing blank would be lost in a group's name.
 QString keyPath(const std::string& section, const std::string& key) {
@@ -31,7 +33,7 @@ void LinuxSettings::save(const std::string& application, const std::string& sect
     store.setValue(keyPath(section, key), text(value));
     store.sync(); // the run may end without another chance
     if (store.status() != QSettings::NoError)
-        throw platform::RuntimeError(platform::PathAccess);
+        throw RuntimeError(PathAccess);
 }
 
-} // namespace platform_linux
+} // namespace platform

@@ -3,9 +3,9 @@
 
 #include "platform/Settings.h"
 
-namespace platform_linux {
+namespace platform {
 
-class LinuxSettings : public platform::Settings {
+class LinuxSettings : public Settings {
 public:
     std::string get(const std::string& application, const std::string& section,
                     const std::string& key, const std::string& fallback) const override;
@@ -13,4 +13,4 @@ public:
               const std::string& value) override;
 };
 
-} // namespace platform_linux
+} // namespace platform
