@@ -1,6 +1,7 @@
 #include "toolkit/Desktop.h"
 
 #include "toolkit/Form.h"
+#include "toolkit/Printer.h"
 
 #include <array>
 
@@ -20,6 +21,10 @@ Button MessageBox::defaultAnswer() const {
 
 void Desktop::focus(Control& control) {
     Screen.focusMoved(control);
+}
+
+std::unique_ptr<PrinterDevice> Desktop::newPrinterDevice() {
+    throw platform::RuntimeError(platform::PrinterError);
 }
 
 Desktop& desktop() {

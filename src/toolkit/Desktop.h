@@ -2,13 +2,14 @@
 // shows nothing, answers message boxes with their default button, and has no events to run.
 #pragma once
 
-#include <functional>
+#include <memory>
 #include <string>
 
 namespace toolkit {
 
 class Control;
 class Form;
+class PrinterDevice;
 
 // The number of the chosen button.
 enum Button : int { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
@@ -48,6 +49,8 @@ public:
     virtual double screenHeight() { return 0; }
     // Shows the help file; a missing file is reported by the viewer.
     virtual void help(Form& /*owner*/, const std::string& /*file*/) {}
+    // Makes ready to print on the system's default printer. Raises PrinterError if there is none.
+    virtual std::unique_ptr<PrinterDevice> newPrinterDevice();
     // No form is left: the event loop ends with the event that runs, unless that shows another.
     virtual void endLoop() {}
 };

@@ -76,6 +76,15 @@ void Form::Unload(UnloadMode mode) {
         desktop().endLoop();
 }
 
+void Form::dropAll() {
+    for (const auto& form : std::exchange(Forms.loaded_, {})) {
+        form->loaded_ = false;
+        Screen.forget(*form);
+        form->dropPeers();
+        form->forget();
+    }
+}
+
 void Form::unloadChildren(UnloadMode mode) {
     const auto loaded = Forms.loaded_;
     for (auto form = loaded.rbegin(); form != loaded.rend(); ++form)

@@ -53,6 +53,8 @@ public:
     // or is being unloaded already.
     void Unload(UnloadMode mode = FormCode);
     bool loaded() const { return loaded_; }
+    // Drops all loaded forms without an event, as the end of a process does.
+    static void dropAll();
 
     // The desktop has found out what its borders add to the client size.
     void setBorders(double width, double height);
