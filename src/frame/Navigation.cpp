@@ -1,5 +1,7 @@
 #include "frame/Navigation.h"
 
+#include "lists/frmCustomize6.h"
+#include "lists/frmFavorites.h"
 #include "numbers/frmMain.h"
 
 namespace quorvanta {
@@ -8,10 +10,16 @@ void mnuMainForm_Click() {
     frmMain::the().Show();
 }
 
+void mnuCustomize_Click() {
+    frmCustomize6::the().Show();
+}
+
+void mnuFavorites_Click() {
+    frmFavorites::the().Show();
+}
+
 // These pages have not joined the program yet.
 void mnuBankroll_Click() {}
-void mnuCustomize_Click() {}
-void mnuFavorites_Click() {}
 void mnuAbout_Click() {}
 void mnuWebsite_Click(toolkit::Form& /*frm*/) {}
 

@@ -87,11 +87,12 @@ private:
     bool unloading_ = false;
 };
 
-// A form that exists at most once: `the()` makes it on first use.
-template <class F>
-class FormOf : public Form {
+// A form that exists at most once: `the()` makes it on first use. `Base` is what it has in common
+// with other forms.
+template <class F, class Base = Form>
+class FormOf : public Base {
 public:
-    using Form::Form;
+    using Base::Base;
 
     static F& the() {
         if (!instance_)

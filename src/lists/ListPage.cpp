@@ -1,0 +1,283 @@
+#include "lists/ListPage.h"
+
+#include "common/FormRoutines.h"
+#include "common/Trap.h"
+#include "lists/cFlexGrid.h"
+#include "numbers/cLotto.h"
+
+#include <array>
+#include <cmath>
+#include <string>
+
+namespace quorvanta {
+
+namespace {
+
+constexpr int kCtrl = 2; // of the keys held down, Ctrl alone
+
+// The cells of a stored row into the grid. Only a cell that a ";" ends counts, and the cells that
+// the text doesn't reach keep what they hold.
+void showCells(toolkit::MSFlexGrid& grid, int row, const std::string& text, int lastColumn) {
+    std::size_t from = 0;
+    for (int c = 1; c <= lastColumn; ++c) {
+        const std::size_t end = text.find(';', from);
+        if (end == std::string::npos)
+            return;
+        grid.TextMatrix(row, c) = text.substr(from, end - from);
+        from = end + 1;
+    }
+}
+
+std::string joinCells(const toolkit::MSFlexGrid& grid, int row, int lastColumn) {
+    std::string text;
+    for (int c = 1; c <= lastColumn; ++c)
+        text += grid.text(row, c) + ";";
+    return text;
+}
+
+// 0 if every row is filled.
+int firstFreeRow(const toolkit::MSFlexGrid& grid) {
+    for (int r = 1; r <= kRows; ++r)
+        if (grid.text(r, 1).empty())
+            return r;
+    return 0;
+}
+
+} // namespace
+
+ListPage::ListPage(const Design& design)
+    : Form(Kind::MDIChild, design.name, design.clientWidth, design.clientHeight),
+      frKeys(*this, "frKeys", "Keypad", {design.keypadLeft, design.keypadTop, 3945, 2745}),
+      grd1(*this, "grd1", design.grid),
+      cmdReset(*this, "cmdReset", "&Reset", {design.resetLeft, design.buttonTop, 1155, 500}),
+      cmdCopy(*this, "cmdCopy", "&File to Grid", {design.copyLeft, design.buttonTop, 1155, 500}),
+      cmdCancel(*this, "cmdCancel", "Close", design.cancel),
+      statBar1(*this, "statBar1", {}, design.statBar),
+      mnuFile(*this, "mnuFile", design.fileMenu),
+      mnuList(*this, design.listMenuName, design.listMenu),
+      mnuWebsite(mnuQuorvantaLite, "mnuWebsite", design.website,
+                 [this] { mnuWebsite_Click(*this); }),
+      design_(design) {
+    KeyPreview = true;
+    buildKeypad();
+    cmdReset.ToolTipText = "Resets the Keypad";
+    cmdReset.Click = [this] { cmdReset_Click(); };
+    cmdCopy.ToolTipText = "Copies numbers to Custom Numbers";
+    cmdCopy.Click = [this] { cmdCopy_Click(); };
+    cmdCancel.Cancel = true;
+    cmdCancel.Click = [this] { Unload(); };
+    grd1.spokenAs = design.corner;
+    grd1.Click = [this] { grd1_Click(); };
+    grd1.DblClick = [this] { grd1_DblClick(); };
+    grd1.LostFocus = [this] { leaveShiftMode(); };
+}
+
+void ListPage::buildKeypad() {
+    static constexpr std::array<double, 7> kLeft{90, 630, 1170, 1725, 2280, 2820, 3360};
+    cmdKey.load(0, frKeys).Visible = false; // so that each key's index is its number
+    for (int n = 1; n <= kNumbers; ++n) {
+        const double left = kLeft.at(static_cast<std::size_t>((n - 1) % 7));
+        const double top = 255.0 + (n - 1) / 7 * 345;
+        auto& key = cmdKey.load(n, frKeys, std::to_string(n), toolkit::Place{left, top, 510, 315});
+        key.speaksPicks = true;
+    }
+    cmdKey.Click = [this](int Index) {
+        grd1.Row = 0;
+        pickNumber(Index);
+    };
+}
+
+void ListPage::setTabOrder(std::initializer_list<toolkit::Control*> controls) {
+    int index = 0;
+    for (toolkit::Control* control : controls)
+        control->TabIndex = index++;
+}
+
+void ListPage::Form_Load() {
+    Caption = std::string(kProductTitle) + " - " + design_.title;
+    layOutGrid();
+    CenterChild(*this);
+}
+
+void ListPage::writeHeaders() {
+    grd1.TextMatrix(0, 0) = design_.corner;
+    for (int c = 1; c <= design_.lastColumn; ++c)
+        grd1.TextMatrix(0, c) = "# " + std::to_string(c);
+    for (int r = 1; r <= kRows; ++r)
+        grd1.TextMatrix(r, 0) = std::to_string(r) + ".";
+}
+
+void ListPage::halveColumns() {
+    for (int c = 1; c <= design_.lastColumn; ++c)
+        grd1.setColWidth(c, static_cast<int>(std::nearbyint(grd1.ColWidth(c) / 2.0)));
+}
+
+void ListPage::getRows(const char* label) {
+    trapped(label, [&](auto step) {
+        for (int r = 1; r <= kRows; ++r)
+            step([&] {
+                showCells(grd1, r, design_.rows.at(static_cast<std::size_t>(r)),
+                          design_.lastColumn);
+            });
+    });
+}
+
+void ListPage::setRows(const char* label) {
+    trapped(label, [&](auto step) {
+        for (int r = 1; r <= kRows; ++r)
+            step([&] {
+                design_.rows.at(static_cast<std::size_t>(r)) =
+                    joinCells(grd1, r, design_.lastColumn);
+            });
+    });
+}
+
+void ListPage::toggleKey(const char* label, int number) {
+    trapped(label, [&](auto step) {
+        cLotto lotto;
+        step([&] { lotto.prpControl = cmdKey.ref(); });
+        lotto.mintFrmButtons = number;
+        step([&] { lotto.prpActionToDo = cLotto::ToggleKey; });
+    });
+}
+
+std::vector<int> ListPage::pickedNumbers() const {
+    std::vector<int> numbers;
+    for (int n = 1; n <= kNumbers; ++n)
+        if (cmdKey(n).FontBold)
+            numbers.push_back(n);
+    return numbers;
+}
+
+bool ListPage::fileRow(const char* label, int atLeast, void (*rowsAreFull)(), void (*tooFew)()) {
+    bool filed = false;
+    trapped(label, [&](auto step) {
+        int row = 0;
+        std::vector<int> numbers;
+        step([&] { row = firstFreeRow(grd1); });
+        if (row == 0)
+            return rowsAreFull();
+        step([&] { numbers = pickedNumbers(); });
+        if (static_cast<int>(numbers.size()) < atLeast)
+            return tooFew();
+        int column = 1;
+        for (const int number : numbers) {
+            step([&] { grd1.TextMatrix(row, column) = std::to_string(number); });
+            ++column;
+        }
+        filed = true;
+    });
+    return filed;
+}
+
+void ListPage::cmdCopy_Click() {
+    if (!fileNumbers())
+        return;
+    cmdReset_Click();
+    storeRows();
+}
+
+void ListPage::cmdReset_Click() {
+    for (int n = 1; n <= kNumbers; ++n)
+        clearNumber(n);
+    grd1.Row = 0;
+}
+
+void ListPage::grd1_DblClick() {
+    const int row = grd1.Row;
+    if (row == 0 || grd1.TextMatrix(row, design_.deleteTest).empty()) {
+        msgNoDeleteRow();
+        if (design_.refusalUnchooses)
+            grd1.Row = 0;
+        return;
+    }
+    if (!msgDeleteGridRow()) {
+        grd1.Row = design_.rowAfterNo;
+        return;
+    }
+    deleteRow(row);
+    storeRows();
+    grd1.Row = 0;
+}
+
+void ListPage::removeRow(const char* label, int row) {
+    trapped(label, [&](auto step) {
+        cFlexGrid rows;
+        step([&] { rows.prpGrid = grd1.ref(); });
+        rows.prpActiveRow = row;
+        rows.prpStartPos = 1;
+        rows.prpEndPos = design_.lastColumn;
+        step([&] { rows.prpActionToDo = cFlexGrid::ClearRow; });
+        step([&] { rows.prpActionToDo = cFlexGrid::CloseGap; });
+    });
+}
+
+void ListPage::Form_KeyDown(int& /*KeyCode*/, int Shift) {
+    if (Shift != kCtrl)
+        return;
+    mblnShiftMode = !mblnShiftMode;
+    if (mblnShiftMode)
+        grd1.Row = 0;
+    SetShiftMode();
+}
+
+void ListPage::SetShiftMode() {
+    trapped("frmFavorites.SetShiftMode", [&](auto step) {
+        step([&] { SetStatBarText(statBar1, 1, mblnShiftMode ? "Shift mode" : ""); });
+        if (!mblnShiftMode)
+            mintFirstRow = mintSecondRow = 0;
+    });
+}
+
+void ListPage::leaveShiftMode() {
+    mblnShiftMode = false;
+    SetShiftMode();
+}
+
+void ListPage::grd1_Click() {
+    if (mblnShiftMode)
+        pickRow();
+    else
+        showRow();
+}
+
+void ListPage::pickRow() {
+    const int row = grd1.Row;
+    if (grd1.TextMatrix(row, 1).empty()) {
+        msgNoEmptyRow();
+        return;
+    }
+    if (mintFirstRow == 0) {
+        mintFirstRow = row;
+    } else {
+        mintSecondRow = row;
+        ShiftRows();
+    }
+    if (mintFirstRow != 0 && mintSecondRow != 0)
+        leaveShiftMode();
+}
+
+void ListPage::ShiftRows() {
+    trapped("frmFavorites.ShiftRows", [&](auto step) {
+        // With the header as the second row nothing has been picked yet.
+        if (mintFirstRow == mintSecondRow || mintSecondRow == 0)
+            return;
+        bool empty = true;
+        step([&] {
+            empty = grd1.TextMatrix(mintFirstRow, 1).empty() ||
+                    grd1.TextMatrix(mintSecondRow, 1).empty();
+        });
+        if (empty)
+            return msgNoEmptyRow();
+        cFlexGrid rows;
+        step([&] { rows.prpGrid = grd1.ref(); });
+        rows.prpStartPos = 1;
+        rows.prpEndPos = design_.lastColumn;
+        rows.prpActiveRow = mintFirstRow;
+        rows.prpSecondRow = mintSecondRow;
+        step([&] { rows.prpActionToDo = cFlexGrid::SwapRows; });
+        step([&] { storeRows(); });
+    });
+}
+
+} // namespace quorvanta
