@@ -197,8 +197,7 @@ public:
 private:
     void makeCorner() {
         auto* const button = view_->findChild<QAbstractButton*>();
-        button->disconnect(); // it would select all
-        button->setEnabled(false);
+        button->setAttribute(Qt::WA_TransparentForMouseEvents); // it would select all
         corner_ = new QLabel(button);
         corner_->setAlignment(Qt::AlignCenter);
         corner_->setFont(view_->font());

@@ -1,0 +1,24 @@
+# Debian packages that the scripts need, and their installation. Sourced, not run.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libicu-dev
+    fonts-liberation)
+display_packages=(xvfb openbox imagemagick x11-utils xauth)
+test_packages=(libgtest-dev libbenchmark-dev xdotool strace cups cups-client
+    printer-driver-cups-pdf poppler-utils "${display_packages[@]}")
+check_packages=(clang-format)
+
+# Installs those of the named packages that are missing, through sudo where not root.
+need() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+    echo "Installing: ${missing[*]}"
+    local as_root=()
+    ((EUID == 0)) || as_root=(sudo)
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
