@@ -1,0 +1,229 @@
+#include "desktop/qt/HelpViewer.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QDir>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace desktop_qt {
+
+namespace {
+
+constexpr int kLastContentsLevel = 3; // headings below this one stay out of the contents
+
+class HelpViewer : public QWidget {
+public:
+    HelpViewer();
+
+    // Keeps the reader's place when it shows this file already.
+    void open(const QString& file);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildFindBar();
+    void buildShortcuts();
+    void load();
+    void fillContents();
+    void goTo(const QTreeWidgetItem* heading);
+    void startFind();
+    void find(QTextDocument::FindFlags direction);
+    void leave();
+
+    QString file_;
+    bool readable_ = false;
+    QTreeWidget* contents_ = new QTreeWidget;
+    QTextBrowser* page_ = new QTextBrowser;
+    QWidget* findBar_ = new QWidget;
+    QLineEdit* sought_ = new QLineEdit;
+    QLabel* findResult_ = new QLabel;
+};
+
+HelpViewer::HelpViewer() {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false); // the program doesn't live on for its help
+    setWindowTitle(QStringLiteral("Quor Vanta  - Help"));
+
+    contents_->setHeaderHidden(true);
+    contents_->setAccessibleName(QStringLiteral("Contents"));
+    connect(contents_, &QTreeWidget::currentItemChanged, this, &HelpViewer::goTo);
+    // Choosing the current heading once more goes back to it.
+    connect(contents_, &QTreeWidget::itemClicked, this, &HelpViewer::goTo);
+    connect(contents_, &QTreeWidget::itemActivated, this, &HelpViewer::goTo);
+
+    page_->setAccessibleName(QStringLiteral("Help page"));
+    page_->setOpenExternalLinks(true);
+    page_->document()->setDocumentMargin(12);
+
+    auto* panes = new QSplitter;
+    panes->addWidget(contents_);
+    panes->addWidget(page_);
+    panes->setStretchFactor(1, 1);
+    panes->setChildrenCollapsible(false);
+    const int em = fontMetrics().height();
+    panes->setSizes({16 * em, 44 * em});
+
+    buildFindBar();
+    buildShortcuts();
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(panes, 1);
+    column->addWidget(findBar_);
+    resize(QSize(60 * em, 42 * em).boundedTo(screen()->availableSize() * 0.9));
+}
+
+void HelpViewer::buildFindBar() {
+    auto* label = new QLabel(QStringLiteral("F&ind:"));
+    auto* next = new QPushButton(QStringLiteral("Find &Next"));
+    label->setBuddy(sought_);
+    sought_->setAccessibleName(QStringLiteral("Find on the help page"));
+    sought_->setClearButtonEnabled(true);
+    auto* row = new QHBoxLayout(findBar_);
+    row->setContentsMargins({});
+    row->addWidget(label);
+    row->addWidget(sought_, 1);
+    row->addWidget(next);
+    row->addWidget(findResult_, 1);
+    findBar_->hide();
+    connect(sought_, &QLineEdit::returnPressed, this, [this] { find({}); });
+    connect(sought_, &QLineEdit::textEdited, findResult_, &QLabel::clear);
+    connect(next, &QPushButton::clicked, this, [this] { find({}); });
+}
+
+void HelpViewer::buildShortcuts() {
+    const auto on = [this](QKeySequence::StandardKey key, auto action) {
+        for (const QKeySequence& keys : QKeySequence::keyBindings(key))
+            new QShortcut(keys, this, action);
+    };
+    on(QKeySequence::Find, [this] { startFind(); });
+    on(QKeySequence::FindNext, [this] { find({}); });
+    on(QKeySequence::FindPrevious, [this] { find(QTextDocument::FindBackward); });
+    on(QKeySequence::ZoomIn, [this] { page_->zoomIn(); });
+    on(QKeySequence::ZoomOut, [this] { page_->zoomOut(); });
+    on(QKeySequence::Cancel, [this] { leave(); });
+}
+
+void HelpViewer::open(const QString& file) {
+    if (readable_ && file == file_)
+        return;
+    file_ = file;
+    load();
+    contents_->setVisible(contents_->topLevelItemCount() > 0);
+    contents_->setCurrentItem(contents_->topLevelItem(0));
+    (contents_->isHidden() ? static_cast<QWidget*>(page_) : contents_)->setFocus();
+}
+
+void HelpViewer::load() {
+    QFile input(file_);
+    readable_ = input.open(QIODevice::ReadOnly);
+    if (readable_)
+        page_->setHtml(QString::fromUtf8(input.readAll()));
+    else
+        page_->setHtml(QStringLiteral("<p><b>The help can't be shown.</b></p>"
+                                      "<p>This file can't be read:</p><p>%1</p><p>Reason: %2</p>")
+                           .arg(QDir::toNativeSeparators(file_).toHtmlEscaped(),
+                                input.errorString().toHtmlEscaped()));
+    fillContents();
+}
+
+void HelpViewer::fillContents() {
+    const QSignalBlocker quiet(contents_);
+    contents_->clear();
+    QTreeWidgetItem* above[kLastContentsLevel + 1] = {contents_->invisibleRootItem()};
+    for (QTextBlock block = page_->document()->begin(); block.isValid(); block = block.next()) {
+        const int level = block.blockFormat().headingLevel();
+        if (level < 1 || level > kLastContentsLevel)
+            continue;
+        QTreeWidgetItem* parent = nullptr;
+        for (int up = level - 1; !parent; --up)
+            parent = above[up];
+        auto* item = new QTreeWidgetItem(parent, {block.text()});
+        item->setData(0, Qt::UserRole, block.position());
+        above[level] = item;
+        std::fill(above + level + 1, std::end(above), nullptr);
+    }
+    contents_->expandAll();
+}
+
+void HelpViewer::goTo(const QTreeWidgetItem* heading) {
+    if (!heading)
+        return;
+    QTextDocument& document = *page_->document();
+    const QTextBlock block = document.findBlock(heading->data(0, Qt::UserRole).toInt());
+    page_->setTextCursor(QTextCursor(block));
+    page_->verticalScrollBar()->setValue(
+        static_cast<int>(document.documentLayout()->blockBoundingRect(block).top()));
+}
+
+void HelpViewer::startFind() {
+    findBar_->show();
+    sought_->setFocus();
+    sought_->selectAll();
+}
+
+// Goes on at the other end of the page when nothing more is found on this side.
+void HelpViewer::find(QTextDocument::FindFlags direction) {
+    if (sought_->text().isEmpty())
+        return startFind();
+    bool found = page_->find(sought_->text(), direction);
+    if (!found) {
+        const QTextCursor place = page_->textCursor();
+        page_->moveCursor(direction ? QTextCursor::End : QTextCursor::Start);
+        found = page_->find(sought_->text(), direction);
+        if (!found)
+            page_->setTextCursor(place);
+    }
+    findResult_->setText(found ? QString() : QStringLiteral("Not found"));
+}
+
+void HelpViewer::leave() {
+    if (findBar_->isHidden()) {
+        close();
+        return;
+    }
+    findBar_->hide();
+    page_->setFocus();
+}
+
+// The colours of links are taken when a page is read, so a change of the theme reads it anew.
+void HelpViewer::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || file_.isEmpty())
+        return;
+    const int place = page_->verticalScrollBar()->value();
+    load();
+    page_->verticalScrollBar()->setValue(place);
+}
+
+} // namespace
+
+void showHelp(QWidget* owner, const QString& file) {
+    static QPointer<HelpViewer> viewer;
+    if (!viewer) {
+        viewer = new HelpViewer;
+        if (owner)
+            QObject::connect(owner->window(), &QObject::destroyed, viewer, &QWidget::close);
+    }
+    viewer->open(file);
+    viewer->setWindowState(viewer->windowState() & ~Qt::WindowMinimized);
+    viewer->show();
+    viewer->raise();
+    viewer->activateWindow();
+}
+
+} // namespace desktop_qt
