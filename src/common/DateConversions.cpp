@@ -190,9 +190,14 @@ private:
         for (int i = 0; i < 7; ++i)
             if (isName(word, LOCALE_SDAYNAME1 + i) || isName(word, LOCALE_SABBREVDAYNAME1 + i))
                 return true;
-        // Words of the locale's own pictures stand in quotes there: "d MMMM yyyy 'г'".
-        const std::string quoted = std::string("'").append(word).append("'");
-        return (shortDate_ + localeText(LOCALE_SLONGDATE)).find(quoted) != std::string::npos;
+        return isInQuotes(word, shortDate_) || isInQuotes(word, localeText(LOCALE_SLONGDATE));
+    }
+
+    // Whether a quoted text of the picture begins with the word: "г" does in "d MMMM yyyy 'г.'".
+    static bool isInQuotes(std::string_view word, const std::string& picture) {
+        const std::string quoted = std::string("'").append(word);
+        const std::size_t at = picture.find(quoted);
+        return at != std::string::npos && !isLetter(picture.c_str()[at + quoted.size()]);
     }
 
     static bool isName(std::string_view word, int item) {
@@ -293,13 +298,16 @@ private:
 
 std::string FormatDate(const DateTime& when, std::string_view picture) {
     std::string text;
+    bool quoted = false;
     for (std::size_t at = 0; at < picture.size();) {
         const char c = picture[at];
         if (c == '\'') {
-            const std::size_t end = std::min(picture.find('\'', at + 1), picture.size());
-            text += end == at + 1 ? "'" : picture.substr(at + 1, end - at - 1);
-            at = end + 1;
-        } else if (isAsciiLetter(c)) {
+            // Two quotes in a row are one in the text.
+            const bool two = picture.substr(at + 1).starts_with('\'');
+            text += two ? "'" : "";
+            quoted ^= !two;
+            at += two ? 2 : 1;
+        } else if (isAsciiLetter(c) && !quoted) {
             const std::size_t end = std::min(picture.find_first_not_of(c, at), picture.size());
             text += field(when, c, end - at);
             at = end;

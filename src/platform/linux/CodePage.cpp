@@ -179,10 +179,6 @@ std::string CodePage::encode(std::string_view text) const {
     return bytes;
 }
 
-bool CodePage::has(std::string_view text) const {
-    return decode(encode(text)) == text;
-}
-
 char16_t CodePage::unicodeOf(unsigned code) const {
     char16_t& known = unicode_[code];
     if (known == 0)

@@ -27,7 +27,8 @@ public:
     // sign of code page 932 is its backslash), else "?".
     std::string encode(std::string_view text) const;
 
-    bool has(std::string_view text) const;
+    // Whether encode() finds bytes for every character of the text, which has no "?" itself.
+    bool has(std::string_view text) const { return encode(text).find('?') == std::string::npos; }
 
 private:
     char16_t unicodeOf(unsigned code) const;

@@ -331,9 +331,9 @@ std::string LinuxLocale::moneyText(int item) const {
     UErrorCode status = U_ZERO_ERROR;
     switch (item) {
     case LOCALE_SCURRENCY: {
-        const std::string sign = symbol(format, UNUM_CURRENCY_SYMBOL);
+        std::string sign = symbol(format, UNUM_CURRENCY_SYMBOL);
         if (sign == "￥")
-            return "¥";
+            sign = "¥"; // of the usual width
         return codePage().has(sign) ? sign : moneyText(LOCALE_SINTLSYMBOL);
     }
     case LOCALE_SINTLSYMBOL:

@@ -92,30 +92,32 @@ int indexOf(const std::string& form, const char* const (&forms)[N]) {
 
 std::string pictureOf(std::string_view pattern) {
     std::string picture, text;
+    const auto endText = [&] {
+        appendText(picture, text);
+        text.clear();
+    };
+    bool quoted = false;
     for (std::size_t at = 0; at < pattern.size();) {
         const char c = pattern[at];
-        if (isLetter(c)) {
-            appendText(picture, text);
-            text.clear();
-            const std::size_t end = std::min(pattern.find_first_not_of(c, at), pattern.size());
-            picture += fieldOf(c, end - at);
-            at = end;
+        std::size_t length = 1;
+        if (pattern.substr(at).starts_with("''")) {
+            text += "''"; // one quote, in a picture too
+            length = 2;
         } else if (c == '\'') {
-            const std::size_t end = std::min(pattern.find('\'', at + 1), pattern.size());
-            // Two quotes in a row are one in the text, and in a picture again two.
-            text += end == at + 1 ? "''" : pattern.substr(at + 1, end - at - 1);
-            at = end + 1;
-        } else if (c == ' ' || c == ',') {
-            appendText(picture, text);
+            quoted = !quoted;
+        } else if (isLetter(c) && !quoted) {
+            endText();
+            length = std::min(pattern.find_first_not_of(c, at), pattern.size()) - at;
+            picture += fieldOf(c, length);
+        } else if ((c == ' ' || c == ',') && !quoted) {
+            endText();
             picture += c;
-            text.clear();
-            ++at;
         } else {
             text += c;
-            ++at;
         }
+        at += length;
     }
-    appendText(picture, text);
+    endText();
     return trimmed(picture);
 }
 
@@ -128,11 +130,10 @@ std::string withoutDayName(std::string_view picture) {
 }
 
 std::string separatorOf(std::string_view picture) {
-    const std::size_t from =
-        std::find_if_not(picture.begin(), picture.end(), isLetter) - picture.begin();
-    const std::size_t to =
-        std::find_if(picture.begin() + from, picture.end(), isLetter) - picture.begin();
-    return std::string(picture.substr(from, to - from));
+    const std::string_view fields =
+        picture.substr(std::min(picture.find_first_of("dMyhH"), picture.size()));
+    const auto from = std::find_if_not(fields.begin(), fields.end(), isLetter);
+    return {from, std::find_if(from, fields.end(), isLetter)};
 }
 
 int dateOrder(std::string_view picture) {
@@ -152,7 +153,7 @@ int negativeCurrencyMode(std::string_view pattern) {
     const int mode = indexOf(currencyForms(pattern).negative,
                              {"($1)", "-$1", "$-1", "$1-", "(1$)", "-1$", "1-$", "1$-", "-1 $",
                               "-$ 1", "1 $-", "$ 1-", "$ -1", "1- $", "($ 1)", "(1 $)"});
-    return std::max(mode, 1);
+    return mode < 0 ? 1 : mode;
 }
 
 } // namespace platform

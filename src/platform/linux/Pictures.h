@@ -13,7 +13,7 @@ std::string pictureOf(std::string_view pattern);
 // The same without the name of the day: "dddd, d. MMMM yyyy" becomes "d. MMMM yyyy".
 std::string withoutDayName(std::string_view picture);
 
-// What stands between the first two fields of a picture: "." in "dd.MM.yyyy".
+// What stands between the first two numbers of a picture: "." in "dd.MM.yyyy".
 std::string separatorOf(std::string_view picture);
 
 // The order of a date: 0 month, day, year; 1 day, month, year; 2 year, month, day.
