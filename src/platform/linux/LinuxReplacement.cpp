@@ -49,7 +49,10 @@ void removeIfThere(const std::string& path) {
 }
 
 void copy(const std::string& from, const std::string& to) {
-    const Descriptor source = Descriptor::openRegular(from, O_RDONLY);
+    const Descriptor source = Descriptor::open(from, O_RDONLY);
+    must(bool(source), from);
+    if (!S_ISREG(source.status().st_mode))
+        throw RuntimeError(PathAccess);
     removeIfThere(to);
     Descriptor target = Descriptor::open(to, O_WRONLY | O_CREAT | O_EXCL);
     must(bool(target), to);
@@ -162,8 +165,10 @@ void LinuxReplacement::putInPlace() {
         keepOld();
         return;
     }
-    if (errno != ENOENT)
-        linkOld(); // a file system on which two files can't change names
+    // There is no old content, or the file system doesn't let two files change names.
+    struct stat old;
+    if (::lstat(path_.c_str(), &old) == 0)
+        linkOld();
     must(rename(spare_, path_), path_);
     spareSpoiled_ = false;
 }

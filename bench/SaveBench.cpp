@@ -1,0 +1,101 @@
+// The time of saving the data file against that of writing and forcing the same bytes with the
+// plain system calls, in turns. Usage: save_bench [turns] [directory]
+#include "storage/cQuorvantaLite.h"
+#include "tests/support/DataFile.h"
+#include "tests/support/RealFiles.h"
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <iostream>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+// The system's disk at rest before each turn, so that none pays for the turn before.
+double microseconds(const std::function<void()>& turn) {
+    ::sync();
+    const auto start = std::chrono::steady_clock::now();
+    turn();
+    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start)
+        .count();
+}
+
+void must(bool done) {
+    if (!done)
+        throw std::runtime_error("a system call failed");
+}
+
+void writeAndForce(const std::string& path, const std::string& text) {
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    must(::write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size()));
+    must(::fsync(fd) == 0);
+    must(::close(fd) == 0);
+}
+
+struct Contender {
+    const char* name;
+    std::function<void(int)> turn;
+    std::vector<double> times;
+
+    double at(double share) {
+        std::ranges::sort(times);
+        return times[static_cast<std::size_t>(share * static_cast<double>(times.size() - 1))];
+    }
+};
+
+} // namespace
+
+int main(int count, char** arguments) {
+    const int turns = count > 1 ? std::atoi(arguments[1]) : 300;
+    if (count > 2)
+        ::setenv("TMPDIR", arguments[2], 1);
+    tests::RealFilesPlatform system;
+    tests::ErrorBoxes boxes;
+    const std::string text = tests::wholeFile();
+    system.files.create("Quorvanta.txt", text);
+    quorvanta::cQuorvantaLite().ReadLottoFile();
+    const auto path = [&](const char* name, int turn) {
+        return system.files.path(name + std::to_string(turn));
+    };
+
+    Contender contenders[] = {
+        {"write and force a new file",
+         [&](int turn) { writeAndForce(path("plain", turn), text); },
+         {}},
+        {"write and force over a file", [&](int) { writeAndForce(path("over", 0), text); }, {}},
+        {"write and force a new file, rename it over another",
+         [&](int turn) {
+             writeAndForce(path("new", turn), text);
+             must(::rename(path("new", turn).c_str(), path("renamed", 0).c_str()) == 0);
+         },
+         {}},
+        {"the same, and force the directory",
+         [&](int turn) {
+             writeAndForce(path("newer", turn), text);
+             must(::rename(path("newer", turn).c_str(), path("renamed", 1).c_str()) == 0);
+             const int fd = ::open(system.files.directory.c_str(), O_RDONLY | O_DIRECTORY);
+             must(::fsync(fd) == 0 && ::close(fd) == 0);
+         },
+         {}},
+        {"save",
+         [&](int turn) {
+             quorvanta::gdblWin = turn;
+             quorvanta::cQuorvantaLite().WriteLottoFile();
+         },
+         {}},
+    };
+    for (int turn = 0; turn < turns; ++turn)
+        for (Contender& contender : contenders)
+            contender.times.push_back(microseconds([&] { contender.turn(turn); }));
+    must(boxes.prompts.empty());
+
+    const double plain = contenders[0].at(0.5);
+    std::cout << turns << " turns of " << text.size() << " bytes, in microseconds\n";
+    for (Contender& it : contenders)
+        std::cout << it.name << ": median " << it.at(0.5) << ", 10% " << it.at(0.1) << ", 90% "
+                  << it.at(0.9) << ", ratio " << it.at(0.5) / plain << "\n";
+    return contenders[4].at(0.5) / plain <= 1.2 ? 0 : 1;
+}
