@@ -1,6 +1,7 @@
 #include "desktop/qt/QtDesktop.h"
 
 #include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/HelpViewer.h"
 #include "desktop/qt/Keys.h"
 #include "desktop/qt/Windows.h"
 
@@ -205,7 +206,10 @@ double QtDesktop::screenHeight() {
     return twips(QGuiApplication::primaryScreen()->size().height());
 }
 
-void QtDesktop::help(Form& /*owner*/, const std::string& /*file*/) {}
+void QtDesktop::help(Form& owner, const std::string& file) {
+    const auto* const peer = dynamic_cast<FormPeer*>(owner.peer());
+    showHelp(peer ? peer->window() : nullptr, text(file));
+}
 
 void QtDesktop::endLoop() {
     // Queued, since the event that runs may show another form.
