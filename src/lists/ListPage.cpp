@@ -89,8 +89,12 @@ void ListPage::buildKeypad() {
 
 void ListPage::setTabOrder(std::initializer_list<toolkit::Control*> controls) {
     int index = 0;
-    for (toolkit::Control* control : controls)
+    for (toolkit::Control* control : controls) {
         control->TabIndex = index++;
+        if (const auto* inner = dynamic_cast<const toolkit::Container*>(control))
+            for (toolkit::Control* within : inner->controls())
+                within->TabIndex = index++;
+    }
 }
 
 void ListPage::Form_Load() {

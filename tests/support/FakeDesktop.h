@@ -16,7 +16,7 @@ namespace tests {
 struct FakeDesktop : toolkit::Desktop {
     std::vector<toolkit::MessageBox> boxes; // in the order in which they were shown
     std::deque<int> answers;                // to the boxes; their default button once it is empty
-    std::function<void()> onBox;            // runs while a box is open
+    std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
     std::function<void(toolkit::Form&)> onModal;            // what the user does on a modal form
     std::vector<std::pair<std::string, std::string>> helps; // the form's name, the help file
@@ -43,13 +43,12 @@ struct FakeDesktop : toolkit::Desktop {
     void show(toolkit::Form& form, bool modal) override;
     int messageBox(const toolkit::MessageBox& box) override {
         boxes.push_back(box);
-        int answer = box.defaultAnswer();
-        if (!answers.empty()) {
-            answer = answers.front();
-            answers.pop_front();
-        }
         if (onBox)
             onBox();
+        if (answers.empty())
+            return box.defaultAnswer();
+        const int answer = answers.front();
+        answers.pop_front();
         return answer;
     }
     void doEvents() override {
@@ -89,20 +88,22 @@ inline bool takesFocus(const toolkit::Control& control) {
     return rightKind && control.Enabled && control.Visible;
 }
 
-// The controls that take the focus, in the order in which Tab visits them.
-inline std::vector<toolkit::Control*> tabOrder(const toolkit::Container& container) {
-    auto controls = container.controls();
-    std::stable_sort(controls.begin(), controls.end(),
-                     [](auto* a, auto* b) { return a->TabIndex < b->TabIndex; });
-    std::vector<toolkit::Control*> order;
-    for (toolkit::Control* control : controls) {
-        if (const auto* inner = dynamic_cast<const toolkit::Container*>(control)) {
-            const auto within = tabOrder(*inner);
-            order.insert(order.end(), within.begin(), within.end());
-        } else if (takesFocus(*control)) {
-            order.push_back(control);
-        }
+inline void collectFocusable(const toolkit::Container& container,
+                             std::vector<toolkit::Control*>& all) {
+    for (toolkit::Control* control : container.controls()) {
+        if (takesFocus(*control))
+            all.push_back(control);
+        if (const auto* inner = dynamic_cast<const toolkit::Container*>(control))
+            collectFocusable(*inner, all);
     }
+}
+
+// The controls that take the focus, in the order in which Tab visits them.
+inline std::vector<toolkit::Control*> tabOrder(const toolkit::Form& form) {
+    std::vector<toolkit::Control*> order;
+    collectFocusable(form, order);
+    std::stable_sort(order.begin(), order.end(),
+                     [](auto* a, auto* b) { return a->TabIndex < b->TabIndex; });
     return order;
 }
 

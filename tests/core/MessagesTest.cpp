@@ -1,0 +1,110 @@
+#include "common/modZWMsg.h"
+#include "tests/support/ProgramTest.h"
+
+namespace {
+
+using namespace quorvanta;
+using Buttons = toolkit::MessageBox::Buttons;
+using Icon = toolkit::MessageBox::Icon;
+
+struct Message {
+    void (*show)();
+    std::string label, text;
+    Icon icon = Icon::Exclamation;
+    Buttons buttons = Buttons::OK;
+    int defaultButton = 1;
+    std::string german = "the same";
+};
+
+const std::vector<Message> kMessages{
+    {[] { msgDeleteGridRow(); }, "modZWMsg.msgDeleteGridRow",
+     "Do you want to delete this row from the grid?", Icon::Question, Buttons::YesNoCancel, 2},
+    {msgOnlySixNumbers, "modZWMsg.msgOnlySixNumbers",
+     "You allready have 6 favorite numbers.\r\nQuor Vanta  limits you to 6 numbers.\r\nTo "
+     "continue, "
+     "either deselect a number or start a new favorite numbers listing."},
+    {msgMoreNumbersRequired, "XXX.msgMoreNumbersRequired",
+     "You must have at least 2 Favorite numbers before filing to grid"},
+    {msgMaxFavoriteNumbers, "modZWMsg.msgMaxFavoriteNumbers",
+     "You have reached the limit for your Favorite numbers.\r\nTo add a new row you must first "
+     "delete one of your other listings"},
+    {msgNotEnoughStammNumbers, "modZWMsg.msgNotEnoughStammNumbers",
+     "You have not selected enough numbers to file-to-grid.\r\nPlease pick at least seven numbers "
+     "and try again"},
+    {msgMaxStammNumbers, "modZWMsg.msgMaxStammNumbers",
+     "You have reached the limit for your Customized numbers.\r\nTo add a new row you must first "
+     "delete one of your old Customized numbers"},
+    {msgNoEmptyRow, "XXX.msgNoEmptyRow",
+     "The row you have selected is invalid. Please choose one with data in it.", Icon::Information},
+    {msgNoDeleteRow, "XXX.msgNoDeleteRow",
+     "You have either not selected a row to delete or there is no data in the row you have "
+     "selected.\r\nPlease select a data filled row to delete before continuing"},
+    {msgNumericOnly, "", "Please enter only a Numeric value", Icon::Information, Buttons::OK, 1,
+     "Bitte ein Numeric wert eingaben"},
+    {msgEnterDate, "", "Please enter a date", Icon::Information, Buttons::OK, 1,
+     "Bitte geben Sie eine Datum ein"},
+};
+
+class MessagesTest : public tests::ProgramTest {};
+
+TEST_F(MessagesTest, EachShowsItsOwnBox) {
+    for (const Message& message : kMessages) {
+        message.show();
+        ASSERT_EQ(desk.boxes.size(), 1U) << message.text;
+        const toolkit::MessageBox box = desk.boxes[0];
+        EXPECT_EQ(box.text, message.text);
+        EXPECT_EQ(box.title, "Quor Vanta ") << message.text;
+        EXPECT_EQ(box.icon, message.icon) << message.text;
+        EXPECT_EQ(box.buttons, message.buttons) << message.text;
+        EXPECT_EQ(box.defaultButton, message.defaultButton) << message.text;
+
+        const bool translated = message.german != "the same";
+        gintLanguage = 2;
+        message.show();
+        gintLanguage = 0;
+        message.show();
+        EXPECT_EQ(desk.boxes[1].text, translated ? message.german : message.text);
+        EXPECT_EQ(desk.boxes[2].text, translated ? "" : message.text);
+        gintLanguage = 1;
+        desk.boxes.clear();
+    }
+}
+
+TEST_F(MessagesTest, ABoxThatCannotBeShownIsReportedUnderItsLabel) {
+    for (const Message& message : kMessages) {
+        bool failed = false;
+        desk.onBox = [&] {
+            if (!std::exchange(failed, true))
+                throw platform::RuntimeError(platform::OutOfMemory);
+        };
+        desk.answers = {toolkit::Retry};
+        message.show();
+        EXPECT_EQ(desk.takeBoxes(),
+                  (std::vector<std::string>{
+                      message.text, "An error has occured: 7\r\nOut of memory\r\n" + message.label,
+                      message.text}));
+    }
+}
+
+TEST_F(MessagesTest, OnlyYesDeletesARow) {
+    desk.answers = {toolkit::Yes, toolkit::No, toolkit::Cancel};
+    EXPECT_TRUE(msgDeleteGridRow());
+    EXPECT_FALSE(msgDeleteGridRow());
+    EXPECT_FALSE(msgDeleteGridRow());
+    EXPECT_FALSE(msgDeleteGridRow()); // Enter presses the default button
+}
+
+TEST_F(MessagesTest, ExitAsksYesOrNoAndPassesAFailureOver) {
+    EXPECT_EQ(msgExit(), toolkit::Yes);
+    EXPECT_EQ(desk.boxes[0].text, "Exiting Quor Vanta ");
+    EXPECT_EQ(desk.boxes[0].buttons, Buttons::YesNo);
+    EXPECT_EQ(desk.boxes[0].icon, Icon::Question);
+    desk.answers = {toolkit::No};
+    EXPECT_EQ(msgExit(), toolkit::No);
+    desk.onBox = [] { throw platform::RuntimeError(platform::OutOfMemory); };
+    const int answer = msgExit();
+    EXPECT_TRUE(answer != toolkit::Yes && answer != toolkit::No);
+    EXPECT_EQ(desk.boxes.size(), 3U);
+}
+
+} // namespace
