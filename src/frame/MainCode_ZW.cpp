@@ -58,10 +58,8 @@ void EndApp(toolkit::Form& frm) {
 }
 
 void EndRunForSystem() {
-    if (MDIForm1* const frame = MDIForm1::ifLoaded()) {
+    if (MDIForm1* const frame = MDIForm1::ifLoaded())
         frame->Unload(toolkit::AppWindows);
-        EndApp(*frame); // reached if the frame was being closed by the user just then
-    }
     platform::current().process.end();
 }
 

@@ -56,17 +56,15 @@ void Form::Unload(UnloadMode mode) {
     if (!loaded_ || unloading_)
         return;
     const auto keep = shared_from_this();
-    unloading_ = true;
     int cancel = 0;
     run([&] { Form_QueryUnload(cancel, mode); });
-    if (cancel != 0) {
-        unloading_ = false;
-        return;
-    }
+    if (cancel != 0 || !loaded_ || unloading_)
+        return; // kept, or unloaded by the event itself
+    unloading_ = true;
     if (kind == Kind::MDIFrame)
         unloadChildren(mode);
     run([this] { Form_Unload(); });
-    loaded_ = false;
+    loaded_ = unloading_ = false;
     std::erase(Forms.loaded_, keep);
     Screen.forget(*this);
     desktop().close(*this);

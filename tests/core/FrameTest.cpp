@@ -1,0 +1,163 @@
+#include "frame/MDIForm1.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/frmSplash.h"
+#include "lists/frmCustomize6.h"
+#include "lists/frmFavorites.h"
+#include "numbers/frmMain.h"
+#include "tests/support/ProgramTest.h"
+
+namespace {
+
+using namespace quorvanta;
+using namespace tests;
+
+constexpr const char* kData = "/app/Quorvanta.txt";
+
+class FrameTest : public ProgramTest {
+protected:
+    MDIForm1& frame() {
+        MDIForm1::the().Show();
+        return MDIForm1::the();
+    }
+    static void press(const std::string& key) {
+        for (const auto& button : MDIForm1::the().tlbar1.Buttons)
+            if (button.Key == key)
+                MDIForm1::the().tlbar1.clickButton(button);
+    }
+    static std::vector<std::string> loaded() {
+        std::vector<std::string> names;
+        for (int i = 0; i < toolkit::Forms.Count(); ++i)
+            names.push_back(toolkit::Forms(i).name());
+        return names;
+    }
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(FrameTest, ARunBeginsWithTheSplashAndTheDataReadAndGoesOnWithTheEmptyFrame) {
+    os.files.content[kData] = "[Win/Loss]\r\nWin:270.5\r\n";
+    Main();
+    EXPECT_EQ(os.random.seeds, 1);
+    EXPECT_EQ(gintLanguage, 1);
+    EXPECT_EQ(gdblWin, 270.5);
+    EXPECT_EQ(toolkit::App.HelpFile, "/app/quorvantalite.hlp");
+    EXPECT_TRUE(os.files.exists("/app/DebugLog.TXT"));
+    ASSERT_EQ(loaded(), Names{"frmSplash"});
+    frmSplash& splash = frmSplash::the();
+    EXPECT_EQ(splash.lblVersion.Caption.get(), "Version 3.5");
+    EXPECT_EQ(splash.Top, (768 * 15 - splash.Height) / 2 - 1500);
+    EXPECT_EQ(splash.Timer1.Interval, 3500);
+    splash.Timer1.fire();
+    EXPECT_EQ(loaded(), Names{"MDIForm1"});
+    EXPECT_EQ(frame().Caption.get(), "Zephyrwick - Quor Vanta ");
+    EXPECT_TRUE(desk.boxes.empty());
+}
+
+TEST_F(FrameTest, AKeyOnTheSplashOpensTheFrameAtOnce) {
+    frmSplash::the().Show();
+    int key = 'x';
+    frmSplash::the().previewKeyPress(key);
+    EXPECT_EQ(loaded(), Names{"MDIForm1"});
+}
+
+TEST_F(FrameTest, ASecondInstanceEndsWithoutWritingAnything) {
+    toolkit::App.PrevInstance = true;
+    EXPECT_THROW(Main(), ProcessEnded);
+    EXPECT_TRUE(os.files.content.empty());
+    EXPECT_EQ(os.settings.saves, 0);
+    EXPECT_EQ(os.random.seeds, 0);
+    EXPECT_EQ(toolkit::Forms.Count(), 0);
+}
+
+TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
+    frame();
+    for (const char* key : {"lotto", "customizesix", "favorites", "bankroll", "lotto"})
+        press(key);
+    EXPECT_EQ(loaded(), (Names{"MDIForm1", "frmMain", "frmCustomize6", "frmFavorites"}));
+    userClick(frmMain::the().cmdJackpot);
+    const auto colour = [](int n) { return frmMain::the().lbl1(n).ForeColor.get(); };
+    std::vector<int> before, after;
+    for (int n = 1; n <= 49; ++n)
+        before.push_back(colour(n));
+    userClick(frmFavorites::the().mnuMainForm);
+    for (int n = 1; n <= 49; ++n)
+        after.push_back(colour(n));
+    EXPECT_EQ(before, after);
+    EXPECT_EQ(toolkit::Screen.ActiveForm(), &frmMain::the());
+    EXPECT_EQ(frmMain::the().Left, (frame().Width - frmMain::the().Width) / 2);
+    EXPECT_EQ(frmMain::the().Top, 0);
+    EXPECT_FALSE(frmMain::the().mnuMainForm.Enabled);
+    press("help");
+    EXPECT_EQ(desk.helps.size(), 1U);
+}
+
+TEST_F(FrameTest, NoToTheExitQuestionChangesNothing) {
+    frame();
+    press("lotto");
+    const auto ways = {std::function<void()>([] { press("exit"); }),
+                       std::function<void()>([&] { userClick(frame().mnuExit); }),
+                       std::function<void()>([&] { frame().Unload(toolkit::FormControlMenu); })};
+    for (const auto& way : ways) {
+        desk.answers = {toolkit::No};
+        way();
+        EXPECT_EQ(desk.takeBoxes(), Names{"Exiting Quor Vanta "});
+        EXPECT_EQ(loaded(), (Names{"MDIForm1", "frmMain"}));
+        EXPECT_FALSE(os.files.exists(kData));
+    }
+}
+
+TEST_F(FrameTest, YesAsksOnceSavesOnceAndEndsFromEveryWay) {
+    const std::vector<std::pair<std::size_t, std::function<void()>>> ways{
+        {1, [] { press("exit"); }},
+        {1, [&] { userClick(frame().mnuExit); }},
+        {1, [&] { frame().Unload(toolkit::FormControlMenu); }},
+        {0, [&] { frame().Unload(toolkit::AppWindows); }},
+        {0, EndRunForSystem}};
+    for (const auto& [questions, way] : ways) {
+        os.files.content.clear();
+        frame();
+        for (const char* key : {"lotto", "customizesix", "favorites"})
+            press(key);
+        desk.answers = {toolkit::Yes};
+        int saves = 0;
+        os.files.fault = [&](const std::string& operation, const std::string& path) {
+            saves += operation == "close" && path == kData ? 1 : 0;
+        };
+        EXPECT_THROW(way(), ProcessEnded);
+        EXPECT_EQ(desk.takeBoxes().size(), questions);
+        EXPECT_EQ(saves, 1);
+        EXPECT_EQ(toolkit::Forms.Count(), 0);
+        toolkit::Form::dropAll();
+    }
+}
+
+TEST_F(FrameTest, TheSystemEndsTheRunAlsoUnderAnOpenQuestionAndWhileADrawYields) {
+    frame();
+    desk.onBox = [&] {
+        desk.onBox = nullptr;
+        EndRunForSystem();
+    };
+    EXPECT_THROW(frame().Unload(toolkit::FormControlMenu), ProcessEnded);
+    EXPECT_TRUE(os.files.exists(kData));
+
+    toolkit::Form::dropAll();
+    os.files.content.clear();
+    frame();
+    press("customizesix");
+    desk.onDoEvents = EndRunForSystem;
+    EXPECT_THROW(userClick(frmCustomize6::the().mnuAllNumbers);
+                 userClick(frmCustomize6::the().cmdReset);
+                 userClick(frmCustomize6::the().cmdJackpot), ProcessEnded);
+    EXPECT_TRUE(os.files.exists(kData));
+}
+
+TEST_F(FrameTest, TheRunEndsWhateverFailsInIts) {
+    frame();
+    os.files.fault = [](const std::string&, const std::string&) {
+        throw platform::RuntimeError(platform::DiskFull);
+    };
+    desk.answers.assign(100, toolkit::Abort);
+    EXPECT_THROW(EndApp(frame()), ProcessEnded);
+}
+
+} // namespace
