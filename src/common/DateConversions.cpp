@@ -35,12 +35,15 @@ std::string padded(int number, std::size_t width) {
     return std::string(width > digits.size() ? width - digits.size() : 0, '0') + digits;
 }
 
+std::chrono::year_month_day dayOf(const DateTime& when) {
+    return {std::chrono::year(when.year), std::chrono::month(static_cast<unsigned>(when.month)),
+            std::chrono::day(static_cast<unsigned>(when.day))};
+}
+
 // The number of a day from 0, Monday, to 6.
 int weekday(const DateTime& when) {
-    const std::chrono::year_month_day day{std::chrono::year(when.year) /
-                                          static_cast<unsigned>(when.month) /
-                                          static_cast<unsigned>(when.day)};
-    return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(day)).iso_encoding()) - 1;
+    const std::chrono::weekday day{std::chrono::sys_days(dayOf(when))};
+    return static_cast<int>(day.iso_encoding()) - 1;
 }
 
 std::string nameOr(int item, const std::string& number) {
@@ -241,11 +244,7 @@ private:
             if (order[i] == 'y' && number.digits <= 2)
                 when_.year += number.value < 50 ? 2000 : 1900;
         }
-        return when_.year >= 100 &&
-               std::chrono::year_month_day(std::chrono::year(when_.year),
-                                           std::chrono::month(static_cast<unsigned>(when_.month)),
-                                           std::chrono::day(static_cast<unsigned>(when_.day)))
-                   .ok();
+        return when_.year >= 100 && dayOf(when_).ok();
     }
 
     bool readTime(std::size_t from) {

@@ -131,6 +131,9 @@ TEST_F(Conversions, NumbersAreReadWithSignSeparatorsAndExponent) {
     };
     for (const auto& [text, value] : rows)
         EXPECT_EQ(CDbl(text), value) << text;
+    const std::string half = "9007199254740993." + std::string(900, '0');
+    EXPECT_EQ(CDbl(half), 9007199254740992);
+    EXPECT_EQ(CDbl(half + "1"), 9007199254740994);
     useGermanLocale();
     EXPECT_EQ(CDbl("270,5"), 270.5);
     EXPECT_EQ(CDbl("270.5"), 2705);

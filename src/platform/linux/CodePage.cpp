@@ -69,13 +69,15 @@ std::size_t asciiRun(std::string_view text, std::size_t from) {
 }
 
 void appendUtf8(std::string& text, char16_t c) {
+    const char last = static_cast<char>(0x80 | (c & 0x3F));
     if (c < 0x800) {
-        text += static_cast<char>(0xC0 | c >> 6);
+        const char bytes[] = {static_cast<char>(0xC0 | c >> 6), last};
+        text.append(bytes, sizeof bytes);
     } else {
-        text += static_cast<char>(0xE0 | c >> 12);
-        text += static_cast<char>(0x80 | (c >> 6 & 0x3F));
+        const char bytes[] = {static_cast<char>(0xE0 | c >> 12),
+                              static_cast<char>(0x80 | (c >> 6 & 0x3F)), last};
+        text.append(bytes, sizeof bytes);
     }
-    text += static_cast<char>(0x80 | (c & 0x3F));
 }
 
 // The byte that the text carries at this place, or 0.
@@ -129,11 +131,11 @@ std::string CodePage::decode(std::string_view bytes) const {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 8);
     for (std::size_t at = 0; at < bytes.size();) {
-        const std::size_t run = asciiRun(bytes, at);
-        text.append(bytes, at, run);
-        at += run;
-        if (at == bytes.size())
-            break;
+        if (const std::size_t run = asciiRun(bytes, at); run != 0) {
+            text.append(bytes, at, run);
+            at += run;
+            continue;
+        }
         const auto first = static_cast<unsigned char>(bytes[at]);
         char16_t c = unicodeOf(first);
         std::size_t length = 1;
@@ -155,11 +157,11 @@ std::string CodePage::encode(std::string_view text) const {
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t at = 0; at < text.size();) {
-        const std::size_t run = asciiRun(text, at);
-        bytes.append(text, at, run);
-        at += run;
-        if (at == text.size())
-            break;
+        if (const std::size_t run = asciiRun(text, at); run != 0) {
+            bytes.append(text, at, run);
+            at += run;
+            continue;
+        }
         if (const unsigned carried = carriedByte(text, at); carried != 0) {
             bytes += static_cast<char>(carried);
             at += 3;

@@ -299,10 +299,9 @@ std::string LinuxLocale::countryText(int item) const {
 
 std::string LinuxLocale::numberText(int item) const {
     const NumberFormat& format = formats_->numbers();
-    const std::string decimal = symbol(format, UNUM_DECIMAL_SEPARATOR_SYMBOL);
     switch (item) {
     case LOCALE_SDECIMAL:
-        return decimal;
+        return symbol(format, UNUM_DECIMAL_SEPARATOR_SYMBOL);
     case LOCALE_STHOUSAND:
         return separator(symbol(format, UNUM_GROUPING_SEPARATOR_SYMBOL));
     case LOCALE_SGROUPING:
@@ -310,7 +309,8 @@ std::string LinuxLocale::numberText(int item) const {
     case LOCALE_SLIST: {
         // A comma, unless it is taken. The Swiss have a point in numbers and keep the semicolon.
         const std::string country = countryOf(categories_.numbers);
-        return decimal == "," || country == "CH" || country == "LI" ? ";" : ",";
+        const bool taken = symbol(format, UNUM_DECIMAL_SEPARATOR_SYMBOL) == ",";
+        return taken || country == "CH" || country == "LI" ? ";" : ",";
     }
     case LOCALE_ILZERO:
         return unum_getAttribute(format.get(), UNUM_MIN_INTEGER_DIGITS) > 0 ? "1" : "0";

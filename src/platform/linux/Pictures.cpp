@@ -50,12 +50,10 @@ void appendText(std::string& picture, const std::string& text) {
     picture += plain ? text : "'" + text + "'";
 }
 
-std::string trimmed(std::string text) {
+std::string trimmed(const std::string& text) {
     constexpr const char* kEdges = " ,";
-    const std::size_t first = text.find_first_not_of(kEdges);
-    return first == std::string::npos
-               ? std::string()
-               : text.substr(first, text.find_last_not_of(kEdges) - first + 1);
+    const std::size_t first = std::min(text.find_first_not_of(kEdges), text.size());
+    return text.substr(first, text.find_last_not_of(kEdges) + 1 - first);
 }
 
 // "¤ #,##0.00;¤-#,##0.00" as {"$ 1", "$-1"}, and without a second half as {.., "-$ 1"}.
