@@ -66,9 +66,9 @@ void Form::Unload(UnloadMode mode) {
     run([this] { Form_Unload(); });
     loaded_ = unloading_ = false;
     std::erase(Forms.loaded_, keep);
-    Screen.forget(*this);
     desktop().close(*this);
     dropPeers();
+    Screen.forget(*this);
     forget();
     if (Forms.Count() == 0)
         desktop().endLoop();
@@ -133,8 +133,8 @@ Form& FormList::operator()(int index) const {
 
 void ScreenObject::focusMoved(Control& now) {
     Control* const before = focus_;
-    if (before == &now)
-        return;
+    if (before == &now || !now.form().loaded())
+        return; // a window that goes moves the focus about inside it
     // Either event may unload either form.
     const auto keepNow = now.form().shared_from_this();
     const auto keepBefore = before ? before->form().shared_from_this() : nullptr;

@@ -170,7 +170,7 @@ void FormPeer::show() {
     window_->activateWindow();
 }
 
-FrameWindow::FrameWindow(Form& form) : form_(&form), area_(new QMdiArea(this)) {
+FrameWindow::FrameWindow(Form& form) : area_(new QMdiArea(this)) {
     mark(this, form);
     setContextMenuPolicy(Qt::PreventContextMenu); // the toolbar stays
     area_->setBackground(palette().brush(QPalette::Dark));
@@ -207,16 +207,24 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
         form->Unload(toolkit::FormControlMenu);
 }
 
-bool FrameWindow::event(QEvent* event) {
-    const bool result = QMainWindow::event(event);
-    const bool moved = event->type() == QEvent::Move || event->type() == QEvent::Resize;
-    if (Form* const form = formOf(this); form && moved && isVisible()) {
-        form->Left.assume(twips(frameGeometry().x()));
-        form->Top.assume(twips(frameGeometry().y()));
-        form->Width.assume(twips(frameGeometry().width()));
-        form->Height.assume(twips(frameGeometry().height()));
-    }
-    return result;
+void FrameWindow::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    takeGeometry();
+}
+
+void FrameWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    takeGeometry();
+}
+
+void FrameWindow::takeGeometry() {
+    Form* const form = formOf(this);
+    if (!form || !isVisible())
+        return;
+    form->Left.assume(twips(frameGeometry().x()));
+    form->Top.assume(twips(frameGeometry().y()));
+    form->Width.assume(twips(frameGeometry().width()));
+    form->Height.assume(twips(frameGeometry().height()));
 }
 
 std::unique_ptr<FormPeer> makeFrameWindow(Form& form) {

@@ -35,10 +35,12 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool event(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    toolkit::Form* form_;
+    void takeGeometry();
+
     QMdiArea* area_;
     QList<QAction*> menus_;
 };

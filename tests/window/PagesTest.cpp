@@ -1,0 +1,230 @@
+// The program's pages as real windows on a real X server: the mouse and the keyboard are those of
+// xdotool.
+#include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/QtDesktop.h"
+#include "desktop/qt/Windows.h"
+#include "frame/MDIForm1.h"
+#include "lists/frmCustomize6.h"
+#include "lists/frmFavorites.h"
+#include "numbers/frmMain.h"
+#include "tests/support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <numeric>
+
+namespace {
+
+using namespace quorvanta;
+using namespace tests;
+
+desktop_qt::QtDesktop* qt = nullptr;
+
+QWidget& widget(const toolkit::Control& control) {
+    return *desktop_qt::widgetOf(control);
+}
+
+// Lets the program's events run until `holds`. False after five seconds.
+template <class Condition>
+bool until(Condition holds) {
+    return QTest::qWaitFor(holds, 5000);
+}
+
+void xdotool(const QStringList& arguments) {
+    QProcess process;
+    process.start("xdotool", arguments);
+    ASSERT_TRUE(until([&] { return process.state() == QProcess::NotRunning; }));
+    ASSERT_EQ(process.exitCode(), 0);
+    QTest::qWait(30); // the server hands the events over
+}
+
+void click(QWidget& at, QPoint point, int times = 1) {
+    const QPoint where = at.mapToGlobal(point);
+    xdotool({"mousemove", QString::number(where.x()), QString::number(where.y()), "click",
+             "--repeat", QString::number(times), "--delay", "60", "1"});
+}
+void click(const toolkit::Control& control) {
+    click(widget(control), widget(control).rect().center());
+}
+void clickRow(toolkit::MSFlexGrid& grid, int row, int times = 1) {
+    auto& view = dynamic_cast<QTableView&>(widget(grid));
+    click(*view.viewport(), {40, view.rowViewportPosition(row - 1) + 6}, times);
+}
+void key(const char* name) {
+    xdotool({"key", name});
+}
+
+QMessageBox* box() {
+    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+}
+
+// Does `first`, which opens a message box, and answers the box by a click on `button`.
+template <class Action>
+std::string answer(Action first, QMessageBox::StandardButton button) {
+    std::string text;
+    QTimer::singleShot(0, [&] {
+        EXPECT_TRUE(until([] { return box() && box()->isActiveWindow(); }));
+        if (!box())
+            return;
+        text = box()->text().toStdString();
+        QAbstractButton* const chosen = box()->button(button);
+        click(*chosen, chosen->rect().center());
+    });
+    first();
+    EXPECT_TRUE(until([&] { return !text.empty() && !box(); }));
+    return text;
+}
+
+bool painted(const toolkit::Label& label, QColor colour) {
+    const QImage image = widget(label).grab().toImage();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) == colour)
+                return true;
+    return false;
+}
+template <class Labels>
+int paintedRed(const Labels& labels) {
+    int count = 0;
+    for (int n = 1; n <= 49; ++n)
+        count += painted(labels(n), Qt::red) ? 1 : 0;
+    return count;
+}
+
+class PagesTest : public ::testing::Test {
+protected:
+    FakePlatform os;
+
+    PagesTest() {
+        ResetSharedState();
+        gintLanguage = 1;
+        for (int r = 1; r <= 3; ++r)
+            gstrStammNumbers[static_cast<std::size_t>(r)] =
+                std::to_string(r) + ";11;12;13;14;15;16" + std::string(43, ';');
+        MDIForm1::the().Show();
+        EXPECT_TRUE(until([] { return window().isActiveWindow(); }));
+    }
+    ~PagesTest() override {
+        toolkit::Form::dropAll();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    static QMainWindow& window() {
+        const auto* peer = dynamic_cast<desktop_qt::FormPeer*>(MDIForm1::the().peer());
+        return dynamic_cast<QMainWindow&>(*peer->window());
+    }
+    static QString menus() {
+        QStringList titles;
+        for (const QAction* action : window().menuBar()->actions())
+            titles << action->text();
+        return titles.join("|");
+    }
+    static void press(const char* toolbarKey) {
+        auto& bar = dynamic_cast<QToolBar&>(widget(MDIForm1::the().tlbar1));
+        auto* const button = bar.widgetForAction(bar.findChild<QAction*>(toolbarKey));
+        click(*button, button->rect().center());
+    }
+    template <class Page>
+    static Page& open(const char* toolbarKey) {
+        press(toolbarKey);
+        EXPECT_TRUE(until([] { return Page::ifLoaded() != nullptr; }));
+        return Page::the();
+    }
+};
+
+TEST_F(PagesTest, ThePlayIsOnTheBoardAfterAClickAndAfterF5AndEscClosesThePage) {
+    EXPECT_EQ(menus(), "&File|&Quor Vanta |&Help");
+    auto& page = open<frmMain>("lotto");
+    EXPECT_EQ(menus(), "&File|&Generator|&Quor Vanta |&Help");
+    click(page.cmdJackpot);
+    EXPECT_TRUE(until([&] { return paintedRed(page.lbl1) == 6; }));
+    click(page.opt1(9));
+    EXPECT_EQ(paintedRed(page.lbl1), 6);
+    key("F5");
+    EXPECT_TRUE(until([&] { return paintedRed(page.lbl1) == 26; }));
+    key("Escape");
+    EXPECT_TRUE(until([] { return !frmMain::ifLoaded(); }));
+    EXPECT_EQ(menus(), "&File|&Quor Vanta |&Help");
+    EXPECT_TRUE(open<frmMain>("lotto").opt1(9).Value);
+}
+
+TEST_F(PagesTest, ARowIsPickedFiledShownAndDrawnFrom) {
+    auto& page = open<frmCustomize6>("customizesix");
+    for (const int n : {41, 3, 48, 7, 33, 12, 25})
+        click(page.cmdKey(n));
+    click(page.cmdCopy);
+    EXPECT_TRUE(until([] { return gstrStammNumbers[4].starts_with("3;7;12;25;33;41;48;;"); }));
+    clickRow(page.grd1, 4);
+    EXPECT_TRUE(until([&] { return !page.Label1(1).Enabled && page.Label1(48).Enabled; }));
+    EXPECT_TRUE(painted(page.Label1(1), Qt::white));
+    EXPECT_FALSE(painted(page.Label1(1), Qt::black));
+    key("F5");
+    EXPECT_TRUE(until([&] { return paintedRed(page.Label1) == 6; }));
+    auto& header = *dynamic_cast<QTableView&>(widget(page.grd1)).horizontalHeader();
+    click(header, {50, 5}); // a click on the grid, but no other row
+    EXPECT_TRUE(until([&] { return paintedRed(page.Label1) == 0; }));
+    EXPECT_EQ(page.grd1.row(), 4);
+}
+
+TEST_F(PagesTest, ADoubleClickAsksAndOnlyYesDeletes) {
+    auto& page = open<frmCustomize6>("customizesix");
+    const auto twice = [&] { clickRow(page.grd1, 1, 2); };
+    EXPECT_EQ(answer(twice, QMessageBox::No), "Do you want to delete this row from the grid?");
+    EXPECT_EQ(page.grd1.row(), 0);
+    EXPECT_TRUE(gstrStammNumbers[1].starts_with("1;"));
+    answer(twice, QMessageBox::Yes);
+    EXPECT_TRUE(gstrStammNumbers[1].starts_with("2;"));
+}
+
+TEST_F(PagesTest, ShiftModeOutlivesItsMessageAndAMenuButNotAClickOnAButton) {
+    auto& page = open<frmCustomize6>("customizesix");
+    const auto on = [&] { return page.statBar1.Panels(1).get() == "Shift mode"; };
+    clickRow(page.grd1, 2);
+    key("ctrl");
+    EXPECT_TRUE(until(on));
+    answer([&] { clickRow(page.grd1, 5); }, QMessageBox::Ok);
+    EXPECT_TRUE(on());
+    key("alt+f");
+    key("Escape");
+    key("Escape"); // the menu bar gives the keyboard back
+    EXPECT_TRUE(on());
+    clickRow(page.grd1, 1);
+    clickRow(page.grd1, 3);
+    EXPECT_TRUE(until([&] { return gstrStammNumbers[1].starts_with("3;"); }));
+    EXPECT_FALSE(on());
+    key("ctrl");
+    EXPECT_TRUE(until(on));
+    click(page.cmdReset);
+    EXPECT_TRUE(until([&] { return !on(); }));
+}
+
+TEST_F(PagesTest, TheFavoritesPageIsWorkedByKeyboardAlone) {
+    auto& page = open<frmFavorites>("favorites");
+    const auto grid = [&] { return widget(page.grd1).hasFocus(); };
+    EXPECT_TRUE(until(grid));
+    for (const char* name : {"Tab", "space", "Tab", "Tab", "space", "alt+f", "Escape"})
+        key(name);
+    EXPECT_TRUE(page.cmdKey(1).FontBold && page.cmdKey(3).FontBold);
+    key("alt+f");
+    EXPECT_TRUE(until([] { return gstrFavorites[1].starts_with("1;3;"); }));
+}
+
+TEST_F(PagesTest, TheCloseBoxAsksAndYesSavesAndEnds) {
+    open<frmMain>("lotto");
+    EXPECT_EQ(answer([] { key("alt+F4"); }, QMessageBox::No), "Exiting Quor Vanta ");
+    EXPECT_NE(frmMain::ifLoaded(), nullptr);
+    EXPECT_FALSE(os.process.ended);
+    EXPECT_FALSE(os.files.exists("/app/Quorvanta.txt"));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    desktop_qt::QtDesktop desktop(argc, argv);
+    qt = &desktop;
+    toolkit::install(&desktop);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
