@@ -27,7 +27,8 @@ public:
 
     bool readLine(std::string& line) override {
         line.clear();
-        std::swap(line, begun_);
+        if (!begun_.empty())
+            std::swap(line, begun_);
         try {
             return readOn(line);
         } catch (...) {
