@@ -24,6 +24,7 @@ struct {
     int position = 0; // of the call that meets the fault, counted from 1
     int error = 0;
     bool names = true, links = true; // whether files can change names, and have two
+    bool deletable = true;
     int calls = 0;
 } fault;
 
@@ -55,7 +56,6 @@ FAULTY(fchmod, (int fd, mode_t mode), fd, mode)
 FAULTY(rename, (const char* from, const char* to), from, to)
 FAULTY(unlink, (const char* path), path)
 FAULTY(chdir, (const char* path), path)
-FAULTY(faccessat, (int at, const char* path, int mode, int flags), at, path, mode, flags)
 FAULTY(fstat, (int fd, struct stat* result), fd, result)
 FAULTY(lstat, (const char* path, struct stat* result), path, result)
 #undef FAULTY
@@ -63,6 +63,10 @@ FAULTY(lstat, (const char* path, struct stat* result), path, result)
 int __real_open(const char* path, int flags, ...);
 int __wrap_open(const char* path, int flags, ...) {
     return faulty([=] { return __real_open(path, flags, 0666); });
+}
+int __real_faccessat(int at, const char* path, int mode, int flags);
+int __wrap_faccessat(int at, const char* path, int mode, int flags) {
+    return fault.deletable ? faulty(__real_faccessat, at, path, mode, flags) : (errno = EACCES, -1);
 }
 int __real_close(int fd);
 int __wrap_close(int fd) {
@@ -74,9 +78,11 @@ ssize_t __wrap_read(int fd, void* to, size_t size) {
 }
 ssize_t __real_write(int fd, const void* from, size_t size);
 ssize_t __wrap_write(int fd, const void* from, size_t size) {
-    if (fault.kind == Kind::KillHalfWritten && fault.calls + 1 == fault.position) {
+    const bool half = fault.kind == Kind::KillHalfWritten || fault.kind == Kind::Fail;
+    if (half && fault.calls + 1 == fault.position) {
         __real_write(fd, from, size / 2);
-        ::raise(SIGKILL);
+        if (fault.kind == Kind::KillHalfWritten)
+            ::raise(SIGKILL);
     }
     return faulty(__real_write, fd, from, size);
 }
@@ -214,6 +220,23 @@ TEST_P(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
         }
     }
     EXPECT_GT(positions, 100);
+}
+
+TEST_P(SaveFaults, FailureBehindAnOldContentThatCanNotBeDeletedLeavesItWhole) {
+    for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore}) {
+        bool reached = GetParam().file;
+        for (int position = 1; reached; ++position) {
+            Run run(*this);
+            fault.deletable = false;
+            run.boxes.answers = {toolkit::Ignore, answer};
+            run.boxes.last = toolkit::Ignore;
+            reached = run.save(Kind::Fail, position, ENOSPC);
+            positions += reached;
+            fault.deletable = true;
+            expectOldOrNew(run, "call " + std::to_string(position));
+            EXPECT_TRUE(run.system.files.content("Quorvanta.txt").starts_with(tests::wholeFile()));
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Starts, SaveFaults, testing::ValuesIn(kStarts), [](const auto& it) {
