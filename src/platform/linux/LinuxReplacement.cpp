@@ -31,7 +31,7 @@ std::string linkTarget(std::string path) {
         if (length <= 0)
             break;
         const std::string to(target, static_cast<std::size_t>(length));
-        path = to.front() == '/' ? to : directoryOf(path) + "/" + to;
+        path = to.front() == '/' ? to : directoryOf(path).append("/").append(to);
     }
     return path;
 }
