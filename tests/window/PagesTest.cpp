@@ -41,10 +41,20 @@ void xdotool(const QStringList& arguments) {
     QTest::qWait(30); // the server hands the events over
 }
 
-void click(QWidget& at, QPoint point, int times = 1) {
+QStringList clickAt(const QWidget& at, QPoint point, int times = 1) {
     const QPoint where = at.mapToGlobal(point);
-    xdotool({"mousemove", QString::number(where.x()), QString::number(where.y()), "click",
-             "--repeat", QString::number(times), "--delay", "60", "1"});
+    return {"mousemove",
+            QString::number(where.x()),
+            QString::number(where.y()),
+            "click",
+            "--repeat",
+            QString::number(times),
+            "--delay",
+            "60",
+            "1"};
+}
+void click(const QWidget& at, QPoint point, int times = 1) {
+    xdotool(clickAt(at, point, times));
 }
 void click(const toolkit::Control& control) {
     click(widget(control), widget(control).rect().center());
@@ -65,14 +75,16 @@ QMessageBox* box() {
 template <class Action>
 std::string answer(Action first, QMessageBox::StandardButton button) {
     std::string text;
-    QTimer::singleShot(0, [&] {
-        EXPECT_TRUE(until([] { return box() && box()->isActiveWindow(); }));
-        if (!box())
+    QTimer watch; // the box runs an event loop of its own inside `first`
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (!box() || !box()->isActiveWindow())
             return;
+        watch.stop();
         text = box()->text().toStdString();
-        QAbstractButton* const chosen = box()->button(button);
-        click(*chosen, chosen->rect().center());
+        const QAbstractButton& chosen = *box()->button(button);
+        QProcess::startDetached("xdotool", clickAt(chosen, chosen.rect().center()));
     });
+    watch.start(20);
     first();
     EXPECT_TRUE(until([&] { return !text.empty() && !box(); }));
     return text;
@@ -186,9 +198,10 @@ TEST_F(PagesTest, ShiftModeOutlivesItsMessageAndAMenuButNotAClickOnAButton) {
     EXPECT_TRUE(until(on));
     answer([&] { clickRow(page.grd1, 5); }, QMessageBox::Ok);
     EXPECT_TRUE(on());
-    key("alt+f");
+    QMenuBar& menuBar = *window().menuBar();
+    click(menuBar, menuBar.actionGeometry(menuBar.actions().first()).center());
+    EXPECT_TRUE(until([] { return QApplication::activePopupWidget() != nullptr; }));
     key("Escape");
-    key("Escape"); // the menu bar gives the keyboard back
     EXPECT_TRUE(on());
     clickRow(page.grd1, 1);
     clickRow(page.grd1, 3);
@@ -204,14 +217,14 @@ TEST_F(PagesTest, TheFavoritesPageIsWorkedByKeyboardAlone) {
     auto& page = open<frmFavorites>("favorites");
     const auto grid = [&] { return widget(page.grd1).hasFocus(); };
     EXPECT_TRUE(until(grid));
-    for (const char* name : {"Tab", "space", "Tab", "Tab", "space", "alt+f", "Escape"})
+    for (const char* name : {"Tab", "space", "Tab", "Tab", "space"})
         key(name);
     EXPECT_TRUE(page.cmdKey(1).FontBold && page.cmdKey(3).FontBold);
     key("alt+f");
     EXPECT_TRUE(until([] { return gstrFavorites[1].starts_with("1;3;"); }));
 }
 
-TEST_F(PagesTest, TheCloseBoxAsksAndYesSavesAndEnds) {
+TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {
     open<frmMain>("lotto");
     EXPECT_EQ(answer([] { key("alt+F4"); }, QMessageBox::No), "Exiting Quor Vanta ");
     EXPECT_NE(frmMain::ifLoaded(), nullptr);

@@ -79,12 +79,28 @@ toolkit::CommandButton* buttonWith(Form& form, bool toolkit::CommandButton::*rol
     return nullptr;
 }
 
-// Esc presses the Cancel button. Enter presses the button with the focus, else the Default button.
-bool pressButton(int key, Form& form, Control* focused) {
-    toolkit::CommandButton* button = nullptr;
-    if (key == Qt::Key_Escape) {
+// The button of the form that Alt and the key stand for, by the letter underlined in its caption.
+toolkit::CommandButton* buttonNamed(Form& form, const QKeyEvent& key) {
+    if (key.modifiers() != Qt::AltModifier)
+        return nullptr;
+    for (Control* control : form.controls()) {
+        auto* const button = dynamic_cast<toolkit::CommandButton*>(control);
+        if (button && button->Enabled && button->Visible &&
+            QKeySequence::mnemonic(text(button->Caption)) == QKeySequence(key.keyCombination()))
+            return button;
+    }
+    return nullptr;
+}
+
+// Esc presses the Cancel button, Alt and a letter the button with that letter. Enter presses the
+// button with the focus, else the Default button.
+bool pressButton(const QKeyEvent& key, Form& form, Control* focused) {
+    toolkit::CommandButton* button = buttonNamed(form, key);
+    if (button) {
+        button->SetFocus();
+    } else if (key.key() == Qt::Key_Escape) {
         button = buttonWith(form, &toolkit::CommandButton::Cancel);
-    } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    } else if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
         button = dynamic_cast<toolkit::CommandButton*>(focused);
         if (!button && !dynamic_cast<toolkit::MSFlexGrid*>(focused))
             button = buttonWith(form, &toolkit::CommandButton::Default);
@@ -222,27 +238,40 @@ void QtDesktop::endLoop() {
 // Every key goes through the window before the widget with the focus, once. Keys of a message box
 // or an opened menu go to windows of their own.
 bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && watched->isWindowType())
-        return previewKey(*static_cast<QKeyEvent*>(event), watched);
-    return QObject::eventFilter(watched, event);
+    const bool override = event->type() == QEvent::ShortcutOverride;
+    if ((!override && event->type() != QEvent::KeyPress) || !watched->isWindowType())
+        return QObject::eventFilter(watched, event);
+    auto& key = *static_cast<QKeyEvent*>(event);
+    Form* const form = formWithKeys(watched);
+    if (!form)
+        return false;
+    if (!override)
+        return previewKey(key, *form);
+    if (!buttonNamed(*form, key))
+        return false;
+    key.accept(); // a button's letter comes before the same letter of a menu
+    return true;
 }
 
-bool QtDesktop::previewKey(QKeyEvent& key, QObject* window) {
-    QWidget* const focusWidget = QApplication::focusWidget();
-    Control* focused = controlOf(focusWidget);
-    Form* form = focused ? &focused->form() : nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (!form && widget->windowHandle() == window)
-            form = formOf(widget);
-    if (!form || QApplication::activePopupWidget())
-        return false;
+Form* QtDesktop::formWithKeys(const QObject* window) {
+    if (QApplication::activePopupWidget())
+        return nullptr;
+    if (const Control* const focused = controlOf(QApplication::focusWidget()))
+        return &focused->form();
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->windowHandle() == window)
+            return formOf(widget);
+    return nullptr;
+}
 
-    const auto keep = form->shared_from_this();
+bool QtDesktop::previewKey(const QKeyEvent& key, Form& form) {
+    Control* const focused = controlOf(QApplication::focusWidget());
+    const auto keep = form.shared_from_this();
     // A handler that unloads the form has used the key up.
-    const auto dropped = [&](int code) { return code == 0 || !form->loaded(); };
+    const auto dropped = [&](int code) { return code == 0 || !form.loaded(); };
     int code = keyCode(key);
     const int shift = shiftMask(key);
-    form->previewKeyDown(code, shift);
+    form.previewKeyDown(code, shift);
     if (dropped(code))
         return true;
     if (focused)
@@ -250,13 +279,13 @@ bool QtDesktop::previewKey(QKeyEvent& key, QObject* window) {
     if (dropped(code))
         return true;
     if (int ascii = keyAscii(key); ascii != 0) {
-        form->previewKeyPress(ascii);
-        if (focused && form->loaded() && ascii != 0)
+        form.previewKeyPress(ascii);
+        if (focused && form.loaded() && ascii != 0)
             focused->keyPress(ascii);
         if (dropped(ascii))
             return true;
     }
-    return pressButton(key.key(), *form, focused);
+    return pressButton(key, form, focused);
 }
 
 } // namespace desktop_qt

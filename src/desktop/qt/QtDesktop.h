@@ -49,7 +49,10 @@ protected:
 private:
     QApplication& application();
     FrameWindow* frame() const;
-    bool previewKey(QKeyEvent& key, QObject* window);
+    // The form that the keys of the window go to, or nullptr.
+    static toolkit::Form* formWithKeys(const QObject* window);
+    // Whether the key has been used up.
+    static bool previewKey(const QKeyEvent& key, toolkit::Form& form);
 
     int& argc_;
     char** argv_;
