@@ -77,6 +77,16 @@ struct FakeDesktop : toolkit::Desktop {
             texts.push_back(box.text);
         return texts;
     }
+    // Likewise, but of error boxes the number and the label: "340 cLotto.SetAllButtons".
+    std::vector<std::string> takeReports() {
+        static const std::string kPrompt = "An error has occured: ";
+        auto texts = takeBoxes();
+        for (std::string& text : texts)
+            if (text.starts_with(kPrompt))
+                text = text.substr(kPrompt.size(), text.find('\r') - kPrompt.size()) + " " +
+                       text.substr(text.rfind('\n') + 1);
+        return texts;
+    }
 };
 
 // Whether a click or the Tab key gives the control the focus.

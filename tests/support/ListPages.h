@@ -14,11 +14,6 @@ inline void pick(quorvanta::ListPage& page, const std::vector<int>& numbers) {
         userClick(page.cmdKey(n));
 }
 
-inline void file(quorvanta::ListPage& page, const std::vector<int>& numbers) {
-    pick(page, numbers);
-    userClick(page.cmdCopy);
-}
-
 inline std::string picked(const quorvanta::ListPage& page) {
     std::string numbers;
     for (int n = 1; n <= 49; ++n)
@@ -28,12 +23,20 @@ inline std::string picked(const quorvanta::ListPage& page) {
 }
 
 // The first cells of the rows 1 to 10, "-" for an empty one.
-inline std::string firstCells(quorvanta::ListPage& page) {
+inline std::string firstCells(const quorvanta::RowTexts& rows) {
     std::string cells;
-    for (int r = 1; r <= 10; ++r)
-        cells +=
-            (r > 1 ? " " : "") + (page.grd1.TextMatrix(r, 1).empty() ? "-" : page.grd1.text(r, 1));
+    for (std::size_t r = 1; r < rows.size(); ++r) {
+        const std::string cell = rows[r].substr(0, rows[r].find(';'));
+        cells += (r > 1 ? " " : "") + (cell.empty() ? "-" : cell);
+    }
     return cells;
+}
+
+inline std::string firstCells(const quorvanta::ListPage& page) {
+    quorvanta::RowTexts rows;
+    for (int r = 1; r <= 10; ++r)
+        rows.at(static_cast<std::size_t>(r)) = page.grd1.text(r, 1);
+    return firstCells(rows);
 }
 
 // Row r is told by its first number, r.
