@@ -1,6 +1,7 @@
 #include "desktop/qt/ControlPeer.h"
 
 #include <QLabel>
+#include <QPixmapCache>
 
 namespace desktop_qt {
 
@@ -12,6 +13,9 @@ public:
         : ControlPeer(image, widget), image_(image), widget_(widget) {
         showPicture();
     }
+    // The icon engine keeps what it has drawn in Qt's cache, where a large picture that is shown
+    // once would stay for long.
+    ~ImagePeer() override { QPixmapCache::clear(); }
 
     void changed(toolkit::Prop which) override {
         if (which == toolkit::Prop::Picture)

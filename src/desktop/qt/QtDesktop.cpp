@@ -122,6 +122,7 @@ QApplication& QtDesktop::application() {
     QApplication::setApplicationName(QStringLiteral("quorvanta"));
     QApplication::setDesktopFileName(QStringLiteral("quorvanta"));
     application_ = std::make_unique<QApplication>(argc_, argv_);
+    QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
     application_->setQuitOnLastWindowClosed(false); // the list of loaded forms decides
     application_->installEventFilter(this);
     connect(application_.get(), &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {

@@ -22,7 +22,6 @@ constexpr const char* kForm = "toolkitForm"; // the property that holds a window
 void mark(QWidget* window, Form& form) {
     window->setObjectName(text(form.name()));
     window->setProperty(kForm, QVariant::fromValue<void*>(&form));
-    window->setWindowIcon(picture("quorvanta"));
 }
 
 void collect(const toolkit::Container& container, std::vector<toolkit::Control*>& all) {
