@@ -3,8 +3,6 @@
 #include "toolkit/Form.h"
 #include "toolkit/Printer.h"
 
-#include <array>
-
 namespace toolkit {
 
 namespace {
@@ -12,11 +10,17 @@ Desktop withoutWindows;
 Desktop* installed = &withoutWindows;
 } // namespace
 
-Button MessageBox::defaultAnswer() const {
-    static constexpr std::array<std::array<Button, 3>, 4> kSets{
-        {{OK, OK, OK}, {Yes, No, No}, {Yes, No, Cancel}, {Abort, Retry, Ignore}}};
-    return kSets.at(static_cast<std::size_t>(buttons))
-        .at(static_cast<std::size_t>(defaultButton - 1));
+std::vector<Button> MessageBox::answers() const {
+    switch (buttons) {
+    case Buttons::YesNo:
+        return {Yes, No};
+    case Buttons::YesNoCancel:
+        return {Yes, No, Cancel};
+    case Buttons::AbortRetryIgnore:
+        return {Abort, Retry, Ignore};
+    default:
+        return {OK};
+    }
 }
 
 void Desktop::focus(Control& control) {

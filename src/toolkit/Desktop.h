@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace toolkit {
 
@@ -24,8 +25,11 @@ struct MessageBox {
     Icon icon = Icon::Information;
     int defaultButton = 1; // counted from 1, left to right
 
-    // The number of the button at `defaultButton`.
-    Button defaultAnswer() const;
+    // The buttons, left to right, and the one at `defaultButton`.
+    std::vector<Button> answers() const;
+    Button defaultAnswer() const {
+        return answers().at(static_cast<std::size_t>(defaultButton - 1));
+    }
 };
 
 class Desktop {

@@ -10,11 +10,15 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QSessionManager>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <QWindow>
+
+#include <array>
+#include <map>
 
 namespace desktop_qt {
 
@@ -51,24 +55,17 @@ QMessageBox::Icon icon(MessageBox::Icon which) {
     }
 }
 
-QMessageBox::StandardButtons buttons(MessageBox::Buttons which) {
-    switch (which) {
-    case MessageBox::Buttons::YesNo:
-        return QMessageBox::Yes | QMessageBox::No;
-    case MessageBox::Buttons::YesNoCancel:
-        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case MessageBox::Buttons::AbortRetryIgnore:
-        return QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore;
-    default:
-        return QMessageBox::Ok;
-    }
+// What Esc and the close box answer: the button that changes least.
+toolkit::Button escapeAnswer(const MessageBox& box) {
+    return box.buttons == MessageBox::Buttons::AbortRetryIgnore ? toolkit::Abort
+                                                                : box.answers().back();
 }
 
-constexpr std::pair<toolkit::Button, QMessageBox::StandardButton> kAnswers[] = {
-    {toolkit::OK, QMessageBox::Ok},         {toolkit::Cancel, QMessageBox::Cancel},
-    {toolkit::Abort, QMessageBox::Abort},   {toolkit::Retry, QMessageBox::Retry},
-    {toolkit::Ignore, QMessageBox::Ignore}, {toolkit::Yes, QMessageBox::Yes},
-    {toolkit::No, QMessageBox::No}};
+const char* label(toolkit::Button button) {
+    static constexpr std::array<const char*, 8> kLabels{"",       "OK",      "Cancel", "&Abort",
+                                                        "&Retry", "&Ignore", "&Yes",   "&No"};
+    return kLabels.at(static_cast<std::size_t>(button));
+}
 
 // The button of the form that Esc or Enter presses.
 toolkit::CommandButton* buttonWith(Form& form, bool toolkit::CommandButton::*role) {
@@ -123,7 +120,7 @@ QApplication& QtDesktop::application() {
     QApplication::setDesktopFileName(QStringLiteral("quorvanta"));
     application_ = std::make_unique<QApplication>(argc_, argv_);
     QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
-    application_->setQuitOnLastWindowClosed(false); // the list of loaded forms decides
+    application_->setQuitOnLastWindowClosed(false);    // the list of loaded forms decides
     application_->installEventFilter(this);
     connect(application_.get(), &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
         if (Control* const control = controlOf(now))
@@ -196,17 +193,20 @@ int QtDesktop::messageBox(const MessageBox& box) {
     application();
     QMessageBox window(icon(box.icon), text(box.title),
                        text(box.text).replace(QLatin1String("\r\n"), QLatin1String("\n")),
-                       buttons(box.buttons), QApplication::activeWindow());
+                       QMessageBox::NoButton, QApplication::activeWindow());
     window.setTextFormat(Qt::PlainText);
-    const toolkit::Button standard = box.defaultAnswer();
-    for (const auto& [number, button] : kAnswers)
-        if (number == standard)
+    std::map<QAbstractButton*, toolkit::Button> numbers;
+    for (const toolkit::Button number : box.answers()) {
+        // Buttons of one role keep this order on every desktop.
+        QPushButton* const button = window.addButton(label(number), QMessageBox::ActionRole);
+        numbers[button] = number;
+        if (number == box.defaultAnswer())
             window.setDefaultButton(button);
-    const int chosen = window.exec();
-    for (const auto& [number, button] : kAnswers)
-        if (button == chosen)
-            return number;
-    return 0;
+        if (number == escapeAnswer(box))
+            window.setEscapeButton(button);
+    }
+    window.exec();
+    return numbers[window.clickedButton()];
 }
 
 void QtDesktop::doEvents() {
