@@ -47,6 +47,10 @@ TEST_F(Customize6Test, RefusedRowsChangeNothing) {
     EXPECT_EQ(gstrStammNumbers, RowTexts{});
     EXPECT_EQ(desk.takeBoxes().at(0).substr(0, 28), "You have not selected enough");
     page.mnuClose.click();
+    gstrStammNumbers[1] = "1;2;"; // too short to be a filed row
+    userDoubleClickRow(open().grd1, 1);
+    EXPECT_EQ(desk.takeBoxes().at(0).substr(0, 15), "You have either");
+    frmCustomize6::the().mnuClose.click();
     fillRows(gstrStammNumbers, 10);
     open().mnuFileToGrid.click(); // the limit counts, not that no key is picked
     EXPECT_EQ(desk.takeBoxes().at(0).substr(0, 46),

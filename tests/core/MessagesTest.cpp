@@ -66,6 +66,7 @@ TEST_F(MessagesTest, EachShowsItsOwnBoxAndReportsUnderItsOwnLabel) {
         };
         desk.answers = {toolkit::Retry};
         message.show();
+        desk.onBox = nullptr;
         const toolkit::MessageBox box = desk.boxes.at(2); // behind the failed one and its report
         EXPECT_EQ(std::tuple(box.title, box.icon, box.buttons, box.defaultButton),
                   std::tuple("Quor Vanta ", message.icon, message.buttons, message.defaultButton))

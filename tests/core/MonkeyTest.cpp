@@ -150,7 +150,7 @@ TEST_F(MonkeyTest, WhatMustAlwaysHoldDoesWhateverIsDone) {
         desk.boxes.clear();
         check();
     }
-    EXPECT_TRUE(draws > events / 20 && nested > events / 100 && ended > 0);
+    EXPECT_TRUE(draws > events / 20 && nested > events / 200 && ended > 0);
     RecordProperty("draws", draws);
     RecordProperty("nested", nested);
     RecordProperty("ended", ended);
