@@ -76,8 +76,9 @@ void ListPage::buildKeypad() {
     static constexpr std::array<double, 7> kLeft{90, 630, 1170, 1725, 2280, 2820, 3360};
     cmdKey.load(0, frKeys).Visible = false; // so that each key's index is its number
     for (int n = 1; n <= kNumbers; ++n) {
+        const int line = (n - 1) / 7;
         const double left = kLeft.at(static_cast<std::size_t>((n - 1) % 7));
-        const double top = 255.0 + (n - 1) / 7 * 345;
+        const double top = 255 + line * 345;
         auto& key = cmdKey.load(n, frKeys, std::to_string(n), toolkit::Place{left, top, 510, 315});
         key.speaksPicks = true;
     }

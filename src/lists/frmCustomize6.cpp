@@ -52,8 +52,9 @@ void frmCustomize6::buildBoard() {
     auto& frame = fra2.load(1, *this, "", toolkit::Place{120, 105, 3705, 3390});
     frame.spokenAs = "Board";
     for (int n = 1; n <= kNumbers; ++n) {
-        const double left = 60.0 + (n - 1) % 7 * 510;
-        const double top = 165.0 + (n - 1) / 7 * 450;
+        const int line = (n - 1) / 7;
+        const double left = 60 + (n - 1) % 7 * 510;
+        const double top = 165 + line * 450;
         auto& label = Label1.load(n, frame, std::to_string(n), toolkit::Place{left, top, 510, 435});
         label.BackColor = toolkit::kWhite;
         label.ForeColor = toolkit::kBlack;
