@@ -48,6 +48,7 @@ void EndApp(toolkit::Form& frm) {
         ~Guard() { ending = false; }
     } guard;
 
+    const auto keep = frm.shared_from_this(); // it is among the forms that go
     failuresOff([&](auto step) {
         step([&] { cQuorvantaLite().WriteLottoFile(); });
         for (int i = toolkit::Forms.Count() - 1; i >= 0; --i)
