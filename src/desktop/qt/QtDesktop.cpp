@@ -3,6 +3,7 @@
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/HelpViewer.h"
 #include "desktop/qt/Keys.h"
+#include "desktop/qt/Printer.h"
 #include "desktop/qt/Windows.h"
 
 #include <QApplication>
@@ -226,6 +227,11 @@ double QtDesktop::screenHeight() {
 void QtDesktop::help(Form& owner, const std::string& file) {
     const auto* const peer = dynamic_cast<FormPeer*>(owner.peer());
     showHelp(peer ? peer->window() : nullptr, text(file));
+}
+
+std::unique_ptr<toolkit::PrinterDevice> QtDesktop::newPrinterDevice() {
+    application();
+    return makePrinterDevice();
 }
 
 void QtDesktop::endLoop() {

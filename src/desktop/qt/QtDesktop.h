@@ -41,6 +41,7 @@ public:
     double screenWidth() override;
     double screenHeight() override;
     void help(toolkit::Form& owner, const std::string& file) override;
+    std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override;
     void endLoop() override;
 
 protected:
