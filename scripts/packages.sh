@@ -1,7 +1,7 @@
 # Debian packages that the scripts need, and their installation. Sourced, not run.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libicu-dev
-    fonts-liberation)
+    libcups2-dev fonts-liberation)
 display_packages=(xvfb openbox imagemagick x11-utils xauth)
 test_packages=(libgtest-dev libbenchmark-dev xdotool strace cups cups-client
     printer-driver-cups-pdf poppler-utils "${display_packages[@]}")
