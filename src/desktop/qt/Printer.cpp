@@ -71,8 +71,8 @@ public:
             fail();
         cups().setTimeout(connection_.get(), kPatience, nullptr, nullptr);
         printer_.reset(cups().getNamedDest(connection_.get(), nullptr, nullptr));
-        if (!printer_ || option("printer-state") == std::to_string(IPP_PSTATE_STOPPED) ||
-            option("printer-is-accepting-jobs") == "false")
+        // A stopped queue would keep the job; one that rejects jobs says so itself.
+        if (!printer_ || option("printer-state") == std::to_string(IPP_PSTATE_STOPPED))
             fail();
     }
 
