@@ -13,6 +13,9 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
+#include <memory>
+#include <string>
 #include <string_view>
 
 namespace desktop_qt {
@@ -130,6 +133,8 @@ private:
 // or turn it, and out to the printer's own margins.
 std::unique_ptr<QPrinter> open(const Queue& queue) {
     const QPrinterInfo info = QPrinterInfo::printerInfo(queue.name());
+    if (info.isNull()) // just removed: another one must not stand in for it
+        fail();
     auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
     if (!printer->isValid() || printer->outputFormat() != QPrinter::NativeFormat)
         fail();
