@@ -216,14 +216,18 @@ TEST_F(PagesTest, ShiftModeOutlivesItsMessageAndAMenuButNotAClickOnAButton) {
 }
 
 TEST_F(PagesTest, TheFavoritesPageIsWorkedByKeyboardAlone) {
-    auto& page = open<frmFavorites>("favorites");
-    const auto grid = [&] { return widget(page.grd1).hasFocus(); };
-    EXPECT_TRUE(until(grid));
+    for (const char* name : {"alt+f", "Down", "Down", "Down", "Return"})
+        key(name);
+    ASSERT_TRUE(until([] { return frmFavorites::ifLoaded() != nullptr; }));
+    auto& page = frmFavorites::the();
+    EXPECT_TRUE(until([&] { return widget(page.grd1).hasFocus(); }));
     for (const char* name : {"Tab", "space", "Tab", "Tab", "space"})
         key(name);
     EXPECT_TRUE(page.cmdKey(1).FontBold && page.cmdKey(3).FontBold);
     key("alt+f");
     EXPECT_TRUE(until([] { return gstrFavorites[1].starts_with("1;3;"); }));
+    for (const char* name : {"Escape", "alt+f", "Down", "Down", "Down", "Return"})
+        key(name);
 }
 
 TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {

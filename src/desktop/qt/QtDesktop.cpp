@@ -265,9 +265,13 @@ Form* QtDesktop::formWithKeys(const QObject* window) {
         return nullptr;
     if (const Control* const focused = controlOf(QApplication::focusWidget()))
         return &focused->form();
-    for (const QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->windowHandle() == window)
-            return formOf(widget);
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->windowHandle() != window)
+            continue;
+        const auto* const frame = dynamic_cast<const FrameWindow*>(widget);
+        Form* const page = frame ? formOf(frame->area()->currentSubWindow()) : nullptr;
+        return page ? page : formOf(widget);
+    }
     return nullptr;
 }
 

@@ -32,23 +32,46 @@ void collect(const toolkit::Container& container, std::vector<toolkit::Control*>
     }
 }
 
-// Tab visits the controls by their TabIndex; the first one that can have the focus gets it.
-void orderTabs(Form& form, QWidget* content) {
+// The controls that Tab visits, by their TabIndex.
+std::vector<toolkit::Control*> tabOrder(Form& form) {
     std::vector<toolkit::Control*> order;
     collect(form, order);
+    std::erase_if(order, [](const toolkit::Control* control) {
+        const QWidget* const widget = widgetOf(*control);
+        return !widget || (widget->focusPolicy() & Qt::TabFocus) == 0;
+    });
     std::stable_sort(order.begin(), order.end(),
                      [](auto* a, auto* b) { return a->TabIndex < b->TabIndex; });
+    return order;
+}
+
+void applyTabOrder(Form& form) {
     QWidget* before = nullptr;
-    for (toolkit::Control* control : order) {
-        QWidget* const widget = widgetOf(*control);
-        if (!widget || (widget->focusPolicy() & Qt::TabFocus) == 0)
-            continue;
-        if (before)
-            QWidget::setTabOrder(before, widget);
-        else
-            content->setFocusProxy(widget);
-        before = widget;
-    }
+    for (const toolkit::Control* control : tabOrder(form))
+        QWidget::setTabOrder(std::exchange(before, widgetOf(*control)), widgetOf(*control));
+}
+
+// Of a group of options Tab visits the selected one.
+toolkit::Control* selectedOf(toolkit::Control& option) {
+    for (toolkit::Control* control : option.parent().controls())
+        if (const auto* const other = dynamic_cast<toolkit::OptionButton*>(control);
+            other && other->selected())
+            return control;
+    return &option;
+}
+
+// Gives the keyboard to the control that had it, at first to the first in the tab order.
+void focusForm(Form& form) {
+    toolkit::Control* target = form.ActiveControl;
+    if (!target)
+        for (toolkit::Control* control : tabOrder(form))
+            if (control->Visible && control->Enabled) {
+                target =
+                    dynamic_cast<toolkit::OptionButton*>(control) ? selectedOf(*control) : control;
+                break;
+            }
+    if (target)
+        widgetOf(*target)->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 QWidget* makeContent(Form& form, QWidget* parent) {
@@ -61,7 +84,7 @@ QWidget* makeContent(Form& form, QWidget* parent) {
         content->setAutoFillBackground(true);
     }
     makePeers(form, content);
-    orderTabs(form, content);
+    applyTabOrder(form);
     return content;
 }
 
@@ -111,7 +134,7 @@ public:
     void show() override {
         page_->show();
         area().setActiveSubWindow(page_);
-        page_->widget()->setFocus(Qt::ActiveWindowFocusReason);
+        focusForm(form_);
     }
 
 private:
@@ -167,6 +190,7 @@ void FormPeer::show() {
     window_->show();
     window_->raise();
     window_->activateWindow();
+    focusForm(form_);
 }
 
 FrameWindow::FrameWindow(Form& form) : area_(new QMdiArea(this)) {
@@ -251,7 +275,6 @@ std::unique_ptr<FormPeer> makeTopLevelWindow(Form& form) {
     mark(window, form);
     QWidget* const content = makeContent(form, window);
     window->setFixedSize(content->size());
-    window->setFocusProxy(content->focusProxy());
     return std::make_unique<FormPeer>(form, window);
 }
 
