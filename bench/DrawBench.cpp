@@ -46,12 +46,13 @@ void clearAndPlay(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 
-BENCHMARK(playAlone)->Arg(6)->Repetitions(5);
-BENCHMARK(clearAndPlay)->Arg(6)->Arg(26)->Repetitions(5);
+BENCHMARK(playAlone)->Arg(6)->Repetitions(5)->DisplayAggregatesOnly();
+BENCHMARK(clearAndPlay)->Arg(6)->Arg(26)->Repetitions(5)->DisplayAggregatesOnly();
 
 // Keeps the slowest plain play of six, with and without the clearing.
 class Reporter : public benchmark::ConsoleReporter {
 public:
+    Reporter() : ConsoleReporter(OO_None) {}
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs)
             if (run.aggregate_name == "median" && run.run_name.args == "6")

@@ -75,28 +75,24 @@ void click(std::uint32_t window, int x, int y) {
         throw std::runtime_error("xdotool failed");
 }
 
-// The frame with the number board open. Its 49 white labels tell that it is there.
-std::unique_ptr<Watched> withPageOpen(const std::string& program) {
-    constexpr int kBoard = 49 * 30 * 30;
+struct Page {
+    const char* name;
+    int button; // where its button lies on the toolbar, in points from the left
+};
+constexpr Page kPages[] = {{"6 From 49", 20}, {"Customize 6", 64}};
+
+// The frame with a page open. The 49 white labels of the page's board tell that it is there.
+std::unique_ptr<Watched> withPageOpen(const std::string& program, const Page& page) {
+    constexpr int kBoard = 49 * 30 * 25;
     auto it = std::make_unique<Watched>(program);
-    it->waitUntilShown();
-    std::this_thread::sleep_for(4s); // the splash has gone
+    const auto splash = it->waitUntilShown();
+    const auto frame = it->waitUntilShown(splash);
+    click(frame, page.button, 45);
     it->waitUntilQuiet();
-    click(it->windows().at(0), 20, 45); // the toolbar's first button
-    it->waitUntilQuiet();
-    if (Watched::whitePoints(it->windows().at(0)) < kBoard)
+    if (Watched::whitePoints(frame) < kBoard)
         throw std::runtime_error("the page didn't open");
     return it;
 }
-
-struct Memory {
-    Figures all, own;
-
-    void add(const Watched& it) {
-        all.add(it.resident());
-        own.add(it.residentOwn());
-    }
-};
 
 bool starts(const std::string& program, const std::string& bare, int turns, const Home& home) {
     Start ours, theirs;
@@ -122,28 +118,27 @@ bool starts(const std::string& program, const std::string& bare, int turns, cons
     return kept;
 }
 
-bool memory(const std::string& program, const std::string& bare, int turns) {
-    Memory ours, theirs;
+bool memory(const std::string& program, const std::string& bare, int turns, const Page& page) {
+    Figures ours, theirs;
     for (int i = 0; i < turns; ++i) {
-        ours.add(*withPageOpen(program));
+        ours.add(withPageOpen(program, page)->resident());
         Watched window(bare);
         window.waitUntilShown();
-        theirs.add(window);
+        theirs.add(window.resident());
     }
-    tell("frame and a page, resident", ours.all, "MB");
-    tell("bare window, resident", theirs.all, "MB");
-    tell("frame and a page, of its own", ours.own, "MB");
-    tell("bare window, of its own", theirs.own, "MB");
-    return keeps("resident memory against a bare window", ours.all.median() / theirs.all.median(),
-                 1.3);
+    tell(std::string("frame and ") + page.name + ", resident memory", ours, "MB");
+    tell("bare window, resident memory", theirs, "MB");
+    return keeps(std::string(page.name) + ", memory against a bare window",
+                 ours.median() / theirs.median(), 1.3);
 }
 
-bool idle(const std::string& program) {
-    const auto it = withPageOpen(program);
+bool idle(const std::string& program, const Page& page) {
+    const auto it = withPageOpen(program, page);
     std::this_thread::sleep_for(2s); // the mouse has come to rest
     const double before = it->processorTime();
     std::this_thread::sleep_for(10s);
-    return keeps("processor milliseconds in ten idle seconds", it->processorTime() - before, 0);
+    return keeps(std::string(page.name) + ", processor milliseconds in ten idle seconds",
+                 it->processorTime() - before, 0);
 }
 
 } // namespace
@@ -159,8 +154,10 @@ int main(int count, char** arguments) {
         const std::string program = home.copy(arguments[1]);
         const std::string bare = home.copy(arguments[2]);
         bool kept = starts(program, bare, turns, home);
-        kept &= memory(program, bare, turns);
-        kept &= idle(program);
+        for (const Page& page : kPages) {
+            kept &= memory(program, bare, turns, page);
+            kept &= idle(program, page);
+        }
         return kept ? 0 : 1;
     } catch (const std::exception& failure) {
         std::cerr << failure.what() << "\n";

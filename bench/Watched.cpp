@@ -114,17 +114,18 @@ double Watched::resident() const {
     return statusLine(pid_, "VmRSS");
 }
 
-double Watched::residentOwn() const {
-    return statusLine(pid_, "RssAnon");
-}
-
-void Watched::waitUntilShown() {
-    while (windows().empty()) {
-        if (Clock::now() - start_ > kPatience)
+std::uint32_t Watched::waitUntilShown(std::uint32_t before) {
+    const auto begin = Clock::now();
+    for (;;) {
+        const auto shown = windows();
+        if (!shown.empty() && shown.front() != before) {
+            waitUntilQuiet();
+            return shown.front();
+        }
+        if (Clock::now() - begin > kPatience)
             throw std::runtime_error("no window came up");
         std::this_thread::sleep_for(1ms);
     }
-    waitUntilQuiet();
 }
 
 void Watched::waitUntilQuiet() {

@@ -22,18 +22,15 @@ public:
 
     double processorTime() const; // milliseconds, all threads, also those that have ended
     double resident() const;      // megabytes
-    double residentOwn() const;   // megabytes that aren't pages of files
 
-    // Waits until a window of the program is on the screen and the program has nothing more to do.
-    // Raises std::runtime_error if that takes more than 20 seconds.
-    void waitUntilShown();
+    // Waits until a window of the program, other than `before`, is on the screen and the program
+    // has nothing more to do. Gives the window. Raises std::runtime_error after 20 seconds.
+    std::uint32_t waitUntilShown(std::uint32_t before = 0);
     // Waits until the program has had nothing to do for a while.
     void waitUntilQuiet();
     // Milliseconds from the start to the last work that a wait has seen.
     double wallTime() const;
 
-    // Its windows on the screen.
-    std::vector<std::uint32_t> windows() const;
     // How many points of the window are quite white.
     static int whitePoints(std::uint32_t window);
 
@@ -45,6 +42,9 @@ public:
     End waitUntilEnded();
 
 private:
+    // Those on the screen.
+    std::vector<std::uint32_t> windows() const;
+
     using Clock = std::chrono::steady_clock;
 
     pid_t pid_ = -1;
