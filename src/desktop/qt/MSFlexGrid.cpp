@@ -178,9 +178,10 @@ public:
     void changed(toolkit::Prop which) override {
         switch (which) {
         case toolkit::Prop::Rows:
+            return showCells();
         case toolkit::Prop::ColWidth:
         case toolkit::Prop::RowHeight:
-            return showCells();
+            return showSizes();
         case toolkit::Prop::Row:
             return showRow();
         default:
@@ -209,6 +210,11 @@ private:
     void showCells() {
         model_->reset();
         corner_->setText(grid_.rows() > 0 && grid_.cols() > 0 ? text(grid_.text(0, 0)) : QString());
+        showSizes();
+        showRow();
+    }
+
+    void showSizes() {
         if (grid_.cols() > 0)
             view_->verticalHeader()->setFixedWidth(pixels(grid_.ColWidth(0)));
         if (grid_.rows() > 0)
@@ -217,7 +223,6 @@ private:
             view_->setColumnWidth(c - grid_.FixedCols, pixels(grid_.ColWidth(c)));
         for (int r = grid_.FixedRows; r < grid_.rows(); ++r)
             view_->setRowHeight(r - grid_.FixedRows, pixels(grid_.RowHeight(r)));
-        showRow();
     }
 
     // Row 0 means that no row is chosen: nothing is highlighted.

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <new>
 
 namespace platform {
 
@@ -117,8 +118,10 @@ int ansiCodePage(const std::string& locale) {
 
 CodePage::CodePage(int number)
     : converter_(openConverter(number)),
-      unicode_(std::make_unique<char16_t[]>(kCodes)),
-      code_(std::make_unique<char16_t[]>(kCodes)) {
+      unicode_(static_cast<char16_t*>(std::calloc(kCodes, sizeof(char16_t)))),
+      code_(static_cast<char16_t*>(std::calloc(kCodes, sizeof(char16_t)))) {
+    if (!unicode_ || !code_)
+        throw std::bad_alloc();
     UErrorCode status = U_ZERO_ERROR;
     ucnv_setFallback(converter_.get(), true);
     ucnv_setToUCallBack(converter_.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr,

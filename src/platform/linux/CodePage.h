@@ -3,6 +3,7 @@
 
 #include <unicode/ucnv.h>
 
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -42,8 +43,13 @@ private:
     std::unique_ptr<UConverter, Close> converter_;
 
     // ICU's answers, each asked for once. 0 stands for one not asked for yet.
-    std::unique_ptr<char16_t[]> unicode_; // by the code of one or two bytes
-    std::unique_ptr<char16_t[]> code_;    // by the character
+    // Only the pages of the tables that are used cost memory: calloc's are untouched till then.
+    struct Free {
+        void operator()(void* table) const { std::free(table); }
+    };
+    using Table = std::unique_ptr<char16_t[], Free>;
+    Table unicode_; // by the code of one or two bytes
+    Table code_;    // by the character
 };
 
 } // namespace platform
