@@ -74,7 +74,7 @@ failures() {
     local record='"frmFavorites.PrintFavoriteNumbers""Number: 482""Description: Printer error"#'
     [[ $(tr -d '\r\n' <"$place/DebugLog.TXT" | grep -o "$record" | wc -l) == "$1" ]]
 }
-# The box opens with Abort chosen; the other two stand before it.
+# The box opens with Abort chosen; Retry and Ignore stand behind it.
 answer() {
     case $1 in
     Retry) keys Tab Return ;;
