@@ -66,6 +66,10 @@ void clickRow(toolkit::MSFlexGrid& grid, int row, int times = 1) {
 void key(const char* name) {
     xdotool({"key", name});
 }
+void keys(std::initializer_list<const char*> names) {
+    for (const char* name : names)
+        key(name);
+}
 
 QMessageBox* box() {
     return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -216,18 +220,27 @@ TEST_F(PagesTest, ShiftModeOutlivesItsMessageAndAMenuButNotAClickOnAButton) {
 }
 
 TEST_F(PagesTest, TheFavoritesPageIsWorkedByKeyboardAlone) {
-    for (const char* name : {"alt+f", "Down", "Down", "Down", "Return"})
-        key(name);
+    gstrFavorites[1] = "5;9;;;;;";
+    keys({"alt+f", "Down", "Down", "Down", "Return"});
     ASSERT_TRUE(until([] { return frmFavorites::ifLoaded() != nullptr; }));
     auto& page = frmFavorites::the();
     EXPECT_TRUE(until([&] { return widget(page.grd1).hasFocus(); }));
-    for (const char* name : {"Tab", "space", "Tab", "Tab", "space"})
-        key(name);
+    keys({"Tab", "space", "Tab", "Tab", "space"});
     EXPECT_TRUE(page.cmdKey(1).FontBold && page.cmdKey(3).FontBold);
-    key("alt+f");
-    EXPECT_TRUE(until([] { return gstrFavorites[1].starts_with("1;3;"); }));
-    for (const char* name : {"Escape", "alt+f", "Down", "Down", "Down", "Return"})
-        key(name);
+    keys({"space", "Tab", "space", "alt+f"}); // 3 is taken back
+    EXPECT_TRUE(until([] { return gstrFavorites[2] == "1;4;;;;;"; }));
+    keys({"alt+r", "shift+Tab", "shift+Tab"}); // Reset, then back over File to Grid to the keys
+    for (int i = 0; i < 49; ++i)
+        key("shift+Tab");
+    EXPECT_TRUE(widget(page.grd1).hasFocus());
+    keys({"ctrl", "Down", "Return", "Down", "Return"});
+    EXPECT_TRUE(until([] { return gstrFavorites[1] == "1;4;;;;;"; }));
+    keys({"Up"});
+    const auto deleteEntry = [] { keys({"alt", "Right", "Down", "Return"}); };
+    EXPECT_EQ(answer(deleteEntry, "&Yes"), "Do you want to delete this row from the grid?");
+    EXPECT_TRUE(until([] { return gstrFavorites[1] == "5;9;;;;;"; }));
+    key("Escape");
+    EXPECT_TRUE(until([] { return !frmFavorites::ifLoaded(); }));
 }
 
 TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {
