@@ -10,6 +10,8 @@
 #include "platform/linux/LinuxProcess.h"
 #include "platform/linux/LinuxSettings.h"
 
+#include <cstdio>
+
 int main(int argc, char** argv) {
     platform::LinuxProcess process;
     platform::LinuxClock clock;
@@ -23,7 +25,12 @@ int main(int argc, char** argv) {
 
     desktop_qt::QtDesktop desktop(argc, argv);
     toolkit::install(&desktop);
-    toolkit::App.Path = files.programDirectory();
+    try {
+        toolkit::App.Path = files.programDirectory();
+    } catch (const platform::RuntimeError& error) {
+        std::fprintf(stderr, "quorvanta: the program's directory: %s\n", error.what());
+        return 1;
+    }
     toolkit::App.PrevInstance = process.prevInstance();
 
     quorvanta::Main();

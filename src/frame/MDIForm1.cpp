@@ -8,7 +8,6 @@
 namespace quorvanta {
 
 MDIForm1::MDIForm1() : FormOf(Kind::MDIFrame, "MDIForm1", 10905, 7725) {
-    Resizable = true;
     tlbar1.Images = &ils1;
     tlbar1.Buttons = {{"lotto", "6 from 49", 1},
                       {"customizesix", "Customize Six", 2},

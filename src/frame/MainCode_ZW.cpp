@@ -16,7 +16,8 @@ using toolkit::App;
 
 namespace {
 constexpr const char* kHelpFile = "quorvantalite.hlp";
-}
+bool ending = false; // EndApp runs
+} // namespace
 
 void Main() {
     toolkit::Form::untrapped = [](const toolkit::Form& form, const platform::RuntimeError& error) {
@@ -40,7 +41,6 @@ void Main() {
 
 void EndApp(toolkit::Form& frm) {
     // Unloading the frame asks its QueryUnload, which ends the run in its turn.
-    static bool ending = false;
     if (ending)
         return;
     struct Guard {
@@ -59,6 +59,8 @@ void EndApp(toolkit::Form& frm) {
 }
 
 void EndRunForSystem() {
+    if (ending)
+        return; // the end that runs may be asking what to do about a save that fails
     if (MDIForm1* const frame = MDIForm1::ifLoaded())
         frame->Unload(toolkit::AppWindows);
     platform::current().process.end();

@@ -13,7 +13,8 @@ void Main();
 void EndApp(toolkit::Form& frm);
 
 // The session ends, or the system asks the program to: closes the frame without a question, also
-// while one is open. Without a frame there is nothing to save yet, and the process just ends.
+// while one is open. Without a frame there is nothing to save yet, and the process just ends. Does
+// nothing while EndApp runs.
 void EndRunForSystem();
 
 } // namespace quorvanta

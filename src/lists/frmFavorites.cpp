@@ -65,12 +65,17 @@ void frmFavorites::SetFavoriteUDTs() {
 }
 
 void frmFavorites::SetFavoriteNumbers(int Index) {
-    const auto picked = static_cast<int>(pickedNumbers().size());
-    const int others = cmdKey(Index).FontBold ? picked - 1 : picked;
-    if (others < kMostNumbers)
-        toggleKey("frmFavorites.SetFavoriteNumbers", Index);
-    else
-        msgOnlySixNumbers();
+    trapped("frmFavorites.SetFavoriteNumbers", [&](auto step) {
+        int others = 0;
+        step([&] {
+            const auto picked = static_cast<int>(pickedNumbers().size());
+            others = cmdKey(Index).FontBold ? picked - 1 : picked;
+        });
+        if (others < kMostNumbers)
+            step([&] { toggleKey("frmFavorites.SetFavoriteNumbers", Index); });
+        else
+            step([&] { msgOnlySixNumbers(); });
+    });
 }
 
 bool frmFavorites::SetFavoritesToGrid() {
@@ -80,6 +85,7 @@ bool frmFavorites::SetFavoritesToGrid() {
 
 void frmFavorites::DeleteGridRow(int row) {
     removeRow("frmFavorites.DeleteGridRow", row);
+    grd1.Row = 0;
 }
 
 void frmFavorites::grd1_DblClick() {

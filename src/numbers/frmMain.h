@@ -56,7 +56,9 @@ private:
     void SetSystemVariable(int index);
     void CheckMenuSystemPlay(int index);
 
-    int mintSystem = 0; // index of the selected option
+    // Index of the option that was selected last. It outlives the page: where the stored setting is
+    // of no use, the page that opens next plays by it.
+    static inline int mintSystem = 0;
 };
 
 } // namespace quorvanta

@@ -58,12 +58,16 @@ void Control::doubleClick() {
 }
 
 void Control::keyDown(int& keyCode, int shift) {
-    if (KeyDown)
+    if (array_ && array_->KeyDown)
+        raise([&] { array_->KeyDown(index_, keyCode, shift); });
+    else if (KeyDown)
         raise([&] { KeyDown(keyCode, shift); });
 }
 
 void Control::keyPress(int& keyAscii) {
-    if (KeyPress)
+    if (array_ && array_->KeyPress)
+        raise([&] { array_->KeyPress(index_, keyAscii); });
+    else if (KeyPress)
         raise([&] { KeyPress(keyAscii); });
 }
 
@@ -79,13 +83,6 @@ void Control::lostFocus() {
         raise([this] { array_->LostFocus(index_); });
     else if (LostFocus)
         raise(LostFocus);
-}
-
-std::vector<Control*> ControlArrayBase::elements() const {
-    std::vector<Control*> there;
-    std::copy_if(elements_.begin(), elements_.end(), std::back_inserter(there),
-                 [](const Control* control) { return control != nullptr; });
-    return there;
 }
 
 std::shared_ptr<ControlArrayBase> ControlArrayBase::ref() {

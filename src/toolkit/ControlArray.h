@@ -24,15 +24,14 @@ public:
     }
 
     const std::string& name() const { return name_; }
-    // In rising order of the index.
-    std::vector<Control*> elements() const;
-
     // A counted reference: it keeps the elements alive after their form has been unloaded.
     std::shared_ptr<ControlArrayBase> ref();
 
     std::function<void(int Index)> Click;
     std::function<void(int Index)> GotFocus;
     std::function<void(int Index)> LostFocus;
+    std::function<void(int Index, int& KeyCode, int Shift)> KeyDown;
+    std::function<void(int Index, int& KeyAscii)> KeyPress;
 
 protected:
     void add(int index, Control& control);

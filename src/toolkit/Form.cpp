@@ -1,6 +1,7 @@
 #include "toolkit/Form.h"
 
 #include <algorithm>
+#include <new>
 
 namespace toolkit {
 
@@ -31,6 +32,9 @@ void Form::run(const std::function<void()>& event) {
     } catch (const platform::RuntimeError& error) {
         if (untrapped)
             untrapped(*this, error);
+    } catch (const std::bad_alloc&) {
+        if (untrapped)
+            untrapped(*this, platform::RuntimeError(platform::OutOfMemory));
     }
 }
 

@@ -36,7 +36,6 @@ public:
     const Kind kind;
     const double clientWidth, clientHeight;
     bool KeyPreview = false; // the form sees a key before the control with the focus gets it
-    bool Resizable = false;  // else a fixed single border
     bool Borderless = false; // no border and no title
     Colour BackColor = kThemeColour;
 

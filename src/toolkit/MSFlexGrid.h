@@ -64,8 +64,9 @@ public:
     // Takes away all cell texts.
     void Clear();
 
-    // The user clicks a row, its row header included, or presses Enter on it: a data row
-    // becomes current before Click is raised, the header row changes nothing. A double click is
+    // The user clicks a data row, or presses Enter on it: it becomes current before Click is
+    // raised. A click on a header cell, of the row or of the column, is told as row 0 and changes
+    // nothing. A double click is
     // told after the click that it begins with.
     void clickRow(int row);
 

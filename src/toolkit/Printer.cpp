@@ -9,6 +9,7 @@ namespace toolkit {
 PrinterObject Printer;
 
 void PrinterObject::Print(Tab tab, const std::string& text) {
+    begun_ = true;
     if (!device_)
         device_ = desktop().newPrinterDevice();
     const Font font{.name = {},
@@ -23,7 +24,9 @@ void PrinterObject::Print(Tab tab, const std::string& text) {
 }
 
 void PrinterObject::EndDoc() {
-    if (device_)
+    if (begun_ && !device_)
+        device_ = desktop().newPrinterDevice(); // no line has found the printer yet
+    if (!page_.empty())
         device_->print(page_);
     KillDoc();
 }
@@ -31,6 +34,7 @@ void PrinterObject::EndDoc() {
 void PrinterObject::KillDoc() {
     device_.reset();
     page_.clear();
+    begun_ = false;
     CurrentY = 0;
 }
 

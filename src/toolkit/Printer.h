@@ -59,7 +59,8 @@ public:
     void KillDoc();
 
 private:
-    std::unique_ptr<PrinterDevice> device_; // only while there is a document
+    bool begun_ = false;                    // there is a document
+    std::unique_ptr<PrinterDevice> device_; // once a line has found the printer
     std::vector<PrintedText> page_;
 };
 extern PrinterObject Printer;

@@ -151,7 +151,25 @@ TEST_F(FrameTest, TheSystemEndsTheRunAlsoUnderAnOpenQuestionAndWhileADrawYields)
     EXPECT_TRUE(os.files.exists(kData));
 }
 
-TEST_F(FrameTest, TheRunEndsWhateverFailsInIts) {
+TEST_F(FrameTest, TheSystemDoesNotCutOffTheQuestionAboutASaveThatFails) {
+    frame();
+    os.files.content[kData] = "old";
+    bool full = true;
+    os.files.fault = [&](const std::string& operation, const std::string& path) {
+        if (full && operation == "close" && path == kData)
+            throw platform::RuntimeError(platform::DiskFull);
+    };
+    desk.onBox = [&] {
+        EndRunForSystem();
+        full = false;
+    };
+    desk.answers = {toolkit::Retry};
+    EXPECT_THROW(EndRunForSystem(), ProcessEnded);
+    EXPECT_EQ(desk.boxes.size(), 1U);
+    EXPECT_NE(os.files.content[kData], "old");
+}
+
+TEST_F(FrameTest, TheRunEndsWhateverFailsInIt) {
     frame();
     os.files.fault = [](const std::string&, const std::string&) {
         throw platform::RuntimeError(platform::DiskFull);

@@ -24,12 +24,12 @@ in_front() { [[ $(xdotool getactivewindow getwindowname 2>/dev/null) =~ $1 ]]; }
 keys() { xdotool key --delay 60 "$@" && sleep 0.15; }
 
 # Starts a copy of the program in the test's directory, as a user of the locale, and waits for its
-# frame.
+# frame, or for the window whose title the third argument describes.
 start_program() {
     install -d -m 700 "$place/run"
     env LC_ALL="$2" XDG_RUNTIME_DIR="$place/run" XDG_CONFIG_HOME="$place" "$1" &
     program=$!
-    await in_front '^Zephyrwick - '
+    await in_front "${3:-^Zephyrwick - }"
 }
 
 end_program() {

@@ -145,11 +145,11 @@ printf '<fontconfig><dir>/usr/share/fonts/truetype/liberation</dir><cachedir>%s<
 cp "$1" "$place/quorvanta"
 write_rows
 
-echo "No print server: the box comes at each of the 16 lines, and Ignore goes on with the next."
+echo "No print server: the box comes at each of the 16 lines and at the end, and Ignore goes on with the next."
 start_program "$place/quorvanta" en_US.UTF-8
 open_page
 choose_print
-for box in {1..16}; do
+for box in {1..17}; do
     error_box "$box"
     answer Ignore
 done
@@ -158,11 +158,11 @@ await in_front '^Zephyrwick - '
 echo "A server without a printer, then with a stopped one: Retry prints when it runs again."
 start_server
 choose_print
-error_box 17
+error_box 18
 add_printer
 cupsdisable PDF
 answer Retry
-error_box 18
+error_box 19
 cupsenable PDF
 answer Retry
 check_texts "$(date +%-m/%-d/%Y)"
@@ -172,7 +172,7 @@ check_places
 echo "A printer that takes no jobs: Abort leaves none behind."
 cupsreject PDF
 choose_print
-error_box 19
+error_box 20
 answer Abort
 await in_front '^Zephyrwick - '
 cupsaccept PDF

@@ -65,4 +65,23 @@ await in_front '^Quor Vanta $'
 keys y
 exit_program
 [[ $(row 5) == "1.;;;;;;;$semicolons" ]] || fail "row 1 is still $(row 5)"
+# The error box of a bad line stands longer than the splash that it came up over.
+printf '[Win/Loss]\r\nWin:\r\nLoss:5\r\n' >"$data"
+start_program "$place/quorvanta" en_US.UTF-8 '^Quor Vanta $'
+sleep 4.5
+keys i # Ignore
+await in_front '^Zephyrwick - '
+end_program
+[[ $(row 29) == Win:0 && $(row 30) == Loss:5 ]] || fail "read as $(row 29) $(row 30)"
+
+# A save that fails asks also when the system ends the run.
+start
+rm -f "$data" && mkdir "$data"
+kill -TERM "$program"
+await in_front '^Quor Vanta $'
+sleep 1.5
+rmdir "$data"
+keys r # Retry
+wait "$program" || fail "the program ended with code $?"
+[[ $(row 30) == Loss:5 ]] || fail "the save after Retry holds $(row 30)"
 echo "Every run went as told."

@@ -10,7 +10,7 @@ class CommandButtonPeer final : public ControlPeer {
 public:
     CommandButtonPeer(toolkit::CommandButton& button, QPushButton* widget)
         : ControlPeer(button, widget), button_(button), widget_(widget) {
-        QObject::connect(widget, &QPushButton::clicked, widget, [this] { button_.click(); });
+        QObject::connect(widget, &QPushButton::clicked, &listener_, [this] { button_.click(); });
         showCaption();
     }
 

@@ -21,10 +21,11 @@ public:
 protected:
     // Follows the caption, in whatever way the widget shows it.
     virtual void showCaption() {}
-    // Follows the colours and the font. Called again when the user's theme changes.
+    // Follows the colours and the font.
     virtual void showLook();
 
     toolkit::Control& control_;
+    QObject listener_; // what the widget's signals are connected to: it goes with the peer
 
 private:
     QPointer<QWidget> widget_;

@@ -35,6 +35,8 @@ int shiftMask(const QKeyEvent& event) {
 }
 
 int keyAscii(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Delete || event.modifiers().testFlag(Qt::AltModifier))
+        return 0;
     const QString typed = event.text();
     return typed.isEmpty() ? 0 : typed.at(0).unicode();
 }

@@ -79,8 +79,8 @@ public:
             header->setSectionsClickable(true);
             header->setDefaultAlignment(Qt::AlignCenter);
         }
-        hookHeader(horizontalHeader(), [](int) { return 0; });
-        hookHeader(verticalHeader(), [](int section) { return section + 1; });
+        hookHeader(horizontalHeader());
+        hookHeader(verticalHeader());
     }
 
     // The grid has gone with its form.
@@ -100,7 +100,7 @@ protected:
     }
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         pressed_ = 0; // its click was told already
-        if (grid_ && event->button() == Qt::LeftButton)
+        if (grid_ && event->button() == Qt::LeftButton && rowAt(event) > 0)
             grid_->doubleClick();
     }
     void keyPressEvent(QKeyEvent* event) override {
@@ -136,16 +136,15 @@ protected:
     }
 
 private:
-    // A click on a header is a click on the grid: on the header row, or on the row it heads. The
-    // view's own selecting would be in the way.
-    template <class RowOf>
-    void hookHeader(QHeaderView* header, RowOf rowOf) {
+    // A click on a header is a click on the grid that chooses no row. The view's own selecting
+    // would be in the way.
+    void hookHeader(QHeaderView* header) {
         disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
         disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
-        connect(header, &QHeaderView::sectionClicked, this, [this, rowOf](int section) {
+        connect(header, &QHeaderView::sectionClicked, this, [this] {
             setFocus(Qt::MouseFocusReason);
             if (grid_)
-                grid_->clickRow(rowOf(section));
+                grid_->clickRow(0);
         });
         connect(header, &QHeaderView::sectionDoubleClicked, this, [this] {
             if (grid_)
@@ -209,6 +208,7 @@ private:
 
     void showCells() {
         model_->reset();
+        view_->verticalHeader()->setVisible(grid_.FixedCols > 0);
         corner_->setText(grid_.rows() > 0 && grid_.cols() > 0 ? text(grid_.text(0, 0)) : QString());
         showSizes();
         showRow();
@@ -232,7 +232,10 @@ private:
             view_->selectionModel()->clear();
             return;
         }
-        const int column = qMax(0, view_->columnAt(0));
+        // The first column that is wholly in view, so that the view doesn't scroll sideways.
+        int column = qMax(0, view_->columnAt(0));
+        if (view_->columnViewportPosition(column) < 0)
+            column = qMin(column + 1, model_->columnCount() - 1);
         view_->selectionModel()->setCurrentIndex(model_->index(row, column),
                                                  QItemSelectionModel::ClearAndSelect |
                                                      QItemSelectionModel::Rows);

@@ -15,7 +15,7 @@ public:
         action->setSeparator(menu.isSeparator());
         action->setShortcut(QKeySequence(text(menu.Shortcut)));
         follow();
-        QObject::connect(action, &QAction::triggered, action, [this] {
+        QObject::connect(action, &QAction::triggered, &listener_, [this] {
             follow(); // Qt has turned the check mark round; turning it is the program's
             menu_.click();
         });
@@ -25,7 +25,8 @@ public:
 
 private:
     void follow() {
-        action_->setText(text(menu_.Caption));
+        if (!menu_.isSeparator()) // a separator with a text is shown as a heading
+            action_->setText(text(menu_.Caption));
         action_->setEnabled(menu_.Enabled);
         action_->setVisible(menu_.Visible);
         if (menu_.Checked)
@@ -35,6 +36,7 @@ private:
 
     toolkit::Menu& menu_;
     QAction* action_;
+    QObject listener_; // the action outlives the peer for a while
 };
 
 QAction* makeAction(toolkit::Menu& menu, QWidget* parent) {

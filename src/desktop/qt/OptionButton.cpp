@@ -13,7 +13,7 @@ public:
         : ControlPeer(option, widget), option_(option), widget_(widget) {
         showCaption();
         widget->setChecked(option.Value);
-        QObject::connect(widget, &QRadioButton::toggled, widget, [this](bool checked) {
+        QObject::connect(widget, &QRadioButton::toggled, &listener_, [this](bool checked) {
             if (checked)
                 option_.click();
         });

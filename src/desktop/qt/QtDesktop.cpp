@@ -32,7 +32,7 @@ namespace {
 constexpr int kExposeTime = 250; // milliseconds that a window gets to come up
 
 // Lets the window come up on the screen. Nothing of the program runs meanwhile: what the user does
-// stays in the queue, and no timer of the program is as short.
+// stays in the queue, and the splash's timer, the only one by then, is not as short.
 void waitUntilShown(QWidget& window) {
     QTimer wake;
     wake.setSingleShot(true);
@@ -56,10 +56,10 @@ QMessageBox::Icon icon(MessageBox::Icon which) {
     }
 }
 
-// What Esc and the close box answer: the button that changes least.
-toolkit::Button escapeAnswer(const MessageBox& box) {
-    return box.buttons == MessageBox::Buttons::AbortRetryIgnore ? toolkit::Abort
-                                                                : box.answers().back();
+// Whether Esc and the close box answer with the last button: Cancel, No or OK. After a failure none
+// of the answers is harmless, so the user has to choose one.
+bool hasEscapeAnswer(const MessageBox& box) {
+    return box.buttons != MessageBox::Buttons::AbortRetryIgnore;
 }
 
 const char* label(toolkit::Button button) {
@@ -103,7 +103,7 @@ bool pressButton(const QKeyEvent& key, Form& form, Control* focused) {
         if (!button && !dynamic_cast<toolkit::MSFlexGrid*>(focused))
             button = buttonWith(form, &toolkit::CommandButton::Default);
     }
-    if (button)
+    if (button && !key.isAutoRepeat()) // a held Esc closes one page, not those below it
         button->click();
     return button != nullptr;
 }
@@ -143,7 +143,11 @@ int QtDesktop::run() {
 void QtDesktop::whenReadable(int descriptor, std::function<void()> ready) {
     application();
     auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [ready = std::move(ready)] { ready(); });
+    // Once is enough, also while what `ready` does runs an event loop of its own.
+    connect(notifier, &QSocketNotifier::activated, this, [notifier, ready = std::move(ready)] {
+        notifier->setEnabled(false);
+        ready();
+    });
 }
 
 FrameWindow* QtDesktop::frame() const {
@@ -194,7 +198,7 @@ int QtDesktop::messageBox(const MessageBox& box) {
     application();
     QMessageBox window(icon(box.icon), text(box.title),
                        text(box.text).replace(QLatin1String("\r\n"), QLatin1String("\n")),
-                       QMessageBox::NoButton, QApplication::activeWindow());
+                       QMessageBox::NoButton, frame());
     window.setTextFormat(Qt::PlainText);
     std::map<QAbstractButton*, toolkit::Button> numbers;
     for (const toolkit::Button number : box.answers()) {
@@ -203,7 +207,7 @@ int QtDesktop::messageBox(const MessageBox& box) {
         numbers[button] = number;
         if (number == box.defaultAnswer())
             window.setDefaultButton(button);
-        if (number == escapeAnswer(box))
+        if (hasEscapeAnswer(box) && number == box.answers().back())
             window.setEscapeButton(button);
     }
     window.exec();

@@ -12,6 +12,7 @@ public:
     StatusBarPeer(toolkit::StatusBar& bar, QStatusBar* widget)
         : ControlPeer(bar, widget), bar_(bar), panel_(new QLabel(widget)) {
         widget->setSizeGripEnabled(false);
+        widget->setFixedHeight(pixels(bar.Height));
         panel_->setTextFormat(Qt::PlainText);
         panel_->setFont(widget->font());
         widget->addWidget(panel_, 1);

@@ -13,9 +13,9 @@ public:
         widget->setAlignment(box.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
                                                                         : Qt::AlignLeft);
         widget->setText(text(box.Text));
-        QObject::connect(widget, &QLineEdit::textEdited, widget,
+        QObject::connect(widget, &QLineEdit::textEdited, &listener_,
                          [this](const QString& typed) { box_.Text.assume(typed.toStdString()); });
-        QObject::connect(widget, &QLineEdit::selectionChanged, widget, [this] {
+        QObject::connect(widget, &QLineEdit::selectionChanged, &listener_, [this] {
             box_.SelStart.assume(qMax(0, widget_->selectionStart()));
             box_.SelLength.assume(static_cast<int>(widget_->selectedText().size()));
         });

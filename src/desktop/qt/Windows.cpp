@@ -196,7 +196,7 @@ void FormPeer::show() {
 FrameWindow::FrameWindow(Form& form) : area_(new QMdiArea(this)) {
     mark(this, form);
     setContextMenuPolicy(Qt::PreventContextMenu); // the toolbar stays
-    area_->setBackground(palette().brush(QPalette::Dark));
+    showBackground();
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(area_);
@@ -228,6 +228,16 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (Form* const form = formOf(this))
         form->Unload(toolkit::FormControlMenu);
+}
+
+void FrameWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showBackground(); // the user's theme has changed
+}
+
+void FrameWindow::showBackground() {
+    area_->setBackground(palette().brush(QPalette::Dark));
 }
 
 void FrameWindow::moveEvent(QMoveEvent* event) {

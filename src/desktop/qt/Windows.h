@@ -35,11 +35,13 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void takeGeometry();
+    void showBackground();
 
     QMdiArea* area_;
     QList<QAction*> menus_;

@@ -2,6 +2,8 @@
 
 #include <chrono>
 #include <ctime>
+#include <exception>
+#include <vector>
 
 namespace platform {
 
@@ -16,13 +18,16 @@ DateTime LinuxClock::now() const {
 void LinuxRandom::seed() {
     const auto ticks = static_cast<unsigned long long>(
         std::chrono::system_clock::now().time_since_epoch().count());
-    std::random_device entropy;
-    std::seed_seq mixed{static_cast<unsigned>(ticks),
-                        static_cast<unsigned>(ticks >> 32U),
-                        entropy(),
-                        entropy(),
-                        entropy(),
-                        entropy()};
+    std::vector<unsigned> sources{static_cast<unsigned>(ticks),
+                                  static_cast<unsigned>(ticks >> 32U)};
+    try {
+        std::random_device entropy;
+        for (int i = 0; i < 4; ++i)
+            sources.push_back(entropy());
+    } catch (const std::exception&) {
+        // A system without entropy at hand leaves the clock.
+    }
+    std::seed_seq mixed(sources.begin(), sources.end());
     engine_.seed(mixed);
 }
 

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxProcess.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -27,7 +28,7 @@ std::string lockPath() {
 LinuxProcess::LinuxProcess() {
     // The descriptor stays open for the life of the process: it holds the lock.
     const int file = open(lockPath().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    another_ = file >= 0 && flock(file, LOCK_EX | LOCK_NB) != 0;
+    another_ = file >= 0 && flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 void LinuxProcess::end() {
@@ -44,8 +45,12 @@ int LinuxProcess::endRequests() {
         [[maybe_unused]] const auto written = write(requestPipe[1], &byte, 1);
     };
     action.sa_flags = SA_RESTART;
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
-        sigaction(number, &action, nullptr);
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        struct sigaction before {};
+        // A signal that whoever started the program has it ignore stays ignored.
+        if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
+            sigaction(number, &action, nullptr);
+    }
     return requestPipe[0];
 }
 
