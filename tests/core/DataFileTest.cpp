@@ -1,34 +1,26 @@
 #include "tests/support/DataFile.h"
-#include "common/Conversions.h"
 #include "storage/cQuorvantaLite.h"
-#include "tests/support/FakePlatform.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include "tests/support/ProgramTest.h"
 
 namespace {
 
 using namespace quorvanta;
-using platform::RuntimeError;
+using tests::stored, tests::StoredValues, toolkit::Retry, toolkit::Ignore, toolkit::Abort;
+using Texts = std::vector<std::string>;
 
-const std::string kPath = "/app/Quorvanta.txt";
-
-struct DataFile : testing::Test {
-    tests::FakePlatform fake;
-    tests::ErrorBoxes boxes;
-
-    DataFile() { ResetSharedState(); }
-
-    std::string& content() { return fake.files.content[kPath]; }
+class DataFile : public tests::ProgramTest {
+protected:
+    std::string& content() { return os.files.content["/app/Quorvanta.txt"]; }
+    void read() { cQuorvantaLite().ReadLottoFile(); }
     void read(const std::string& text) {
         content() = text;
-        cQuorvantaLite().ReadLottoFile();
+        read();
     }
+    void write() { cQuorvantaLite().WriteLottoFile(); }
     void failAt(const std::string& operation, int number, int times = 1) {
-        fake.files.fault = [=](const std::string& it, const std::string& path) mutable {
-            if (it == operation && path == kPath && times-- > 0)
-                throw RuntimeError(number, "failed");
+        os.files.fault = [=](const std::string& it, const std::string& path) mutable {
+            if (it == operation && path == "/app/Quorvanta.txt" && times-- > 0)
+                throw platform::RuntimeError(number, "failed");
         };
     }
 };
@@ -36,162 +28,118 @@ struct DataFile : testing::Test {
 TEST_F(DataFile, ComesBackAsItWasWritten) {
     read(tests::wholeFile());
     EXPECT_EQ(gstrStammNumbers[2], "8;11;19;23;29;34;40;46;" + std::string(41, ';'));
-    EXPECT_EQ(gstrStammNumbers[10], std::string(49, ';'));
     EXPECT_EQ(gstrFavorites[1], "5;9;14;22;36;44;");
-    EXPECT_EQ(std::tuple(gdblWin, gdblLoss, gdblBalance, gdblLargest),
-              std::tuple(1250.5, 980, 270.5, 500));
-    EXPECT_EQ(gstrBankrollDate, "3/2/2005");
-    content().clear();
-    cQuorvantaLite().WriteLottoFile();
+    EXPECT_EQ(std::tuple(gdblWin, gdblLoss, gdblBalance, gdblLargest, gstrBankrollDate),
+              std::tuple(1250.5, 980, 270.5, 500, "3/2/2005"));
+    write();
     EXPECT_EQ(content(), tests::wholeFile());
-    EXPECT_TRUE(boxes.prompts.empty());
+    EXPECT_EQ(desk.takeReports(), Texts());
 }
 
 TEST_F(DataFile, OfAFirstRunIsWholeAndDated) {
-    cQuorvantaLite().ReadLottoFile();
-    EXPECT_EQ(tests::storedValues(), tests::StoredValues());
-    cQuorvantaLite().WriteLottoFile();
+    read();
+    EXPECT_EQ(stored(), StoredValues());
+    write();
     EXPECT_EQ(std::ranges::count(content(), '\n'), 33);
     EXPECT_NE(content().find("\r\n10.\r\n\r\n[Favorites]\r\n1.\r\n"), std::string::npos);
     EXPECT_TRUE(
         content().ends_with("\r\nWin:0\r\nLoss:0\r\nBal:0\r\nLarge:0\r\nDate:7/25/2005\r\n"));
-    EXPECT_EQ(fake.files.directory, "/app");
-    EXPECT_TRUE(boxes.prompts.empty());
+    EXPECT_EQ(os.files.directory, "/app");
+    EXPECT_EQ(desk.takeReports(), Texts());
 }
 
 TEST_F(DataFile, NumbersFollowTheLocaleOfTheRun) {
-    fake.locale.items[14] = ",";
-    fake.locale.items[15] = ".";
+    std::swap(os.locale.items[14], os.locale.items[15]);
     gdblWin = 270.5;
-    cQuorvantaLite().WriteLottoFile();
+    write();
     EXPECT_NE(content().find("\r\nWin:270,5\r\n"), std::string::npos);
-    cQuorvantaLite().ReadLottoFile();
+    read();
     EXPECT_EQ(gdblWin, 270.5);
-    std::swap(fake.locale.items[14], fake.locale.items[15]);
-    cQuorvantaLite().ReadLottoFile();
+    std::swap(os.locale.items[14], os.locale.items[15]);
+    read();
     EXPECT_EQ(gdblWin, 2705);
 }
 
-TEST_F(DataFile, LineGoesToTheRowThatItsSectionTells) {
+TEST_F(DataFile, LineGoesToTheRowThatItsSectionTellsOrNowhere) {
     const std::string stamm = "[StammNumbers]\r", favorites = "[Favorites]\r";
-    struct Case {
-        std::string text;
-        RowTexts& rows;
-        int row;
-        std::string value;
-    };
-    const Case cases[] = {
+    const std::tuple<std::string, RowTexts&, int, std::string> cases[] = {
         {stamm + "27;1", gstrStammNumbers, 2, ";1"},
         {stamm + "3.", gstrStammNumbers, 3, ""},
         {stamm + "10.5;\r\n", gstrStammNumbers, 10, "5;"},
         {stamm + "100.", gstrStammNumbers, 10, "."},
         {stamm + "1.a\r1.b\r\n", gstrStammNumbers, 1, "b"},
         {stamm + "4.a\nb\r", gstrStammNumbers, 4, "a\nb"},
-        {stamm + "5\xC3\xA9"
-                 "9",
-         gstrStammNumbers, 5, "9"},
+        {stamm + "5\u00E99", gstrStammNumbers, 5, "9"},
         {stamm + "[Other]\r3.x", gstrStammNumbers, 3, "x"},
         {stamm + "[Favorites] \r3.x", gstrStammNumbers, 3, "x"},
         {stamm + "[favorites]\r3.x", gstrStammNumbers, 3, "x"},
         {favorites + "10x5", gstrFavorites, 10, "5"},
         {favorites + "9.\x81\xFF\x01", gstrFavorites, 9, "\x81\xFF\x01"},
         {favorites + stamm + "6.x", gstrStammNumbers, 6, "x"},
+        // Nowhere, and so in the row that is never used.
+        {"\r\r\n\n1.x\r2.x\rWin:5\rDate:x", gstrFavorites, 0, "before"},
+        {stamm + "1x\rWin:7\rDate:x\r.1\r", gstrStammNumbers, 0, "before"},
+        {favorites + "27;1\r2x\r1\r2\rWin:7", gstrFavorites, 0, "before"},
+        {"[Win/Loss]\r1.x\r2.x\rwin:3\r Win:3\rTotal:3", gstrFavorites, 0, "before"},
     };
-    for (const Case& it : cases) {
-        ResetSharedState();
-        it.rows[it.row] = "before";
-        read(it.text);
-        EXPECT_EQ(it.rows[it.row], it.value) << it.text;
-        it.rows[it.row].clear();
-        EXPECT_EQ(tests::storedValues(), tests::StoredValues()) << it.text;
-    }
-    EXPECT_TRUE(boxes.prompts.empty());
-}
-
-TEST_F(DataFile, LineThatMeansNothingChangesNothing) {
-    for (const char* text :
-         {"", "1.x\r2.x\rWin:5\rDate:x", "[StammNumbers]\r1x\rWin:7\rDate:x\r.1\r", "\r\r\n\n",
-          "[Favorites]\r27;1\r2x\r1\r2\rWin:7", "[Win/Loss]\r1.x\r2.x\rwin:3\r Win:3\rTotal:3"}) {
+    for (const auto& [text, rows, row, value] : cases) {
+        rows[row] = "before";
         read(text);
-        EXPECT_EQ(tests::storedValues(), tests::StoredValues()) << text;
+        EXPECT_EQ(rows[row], value) << text;
+        rows[row].clear();
+        EXPECT_EQ(stored(), StoredValues()) << text;
+        stored() = StoredValues();
     }
-    EXPECT_TRUE(boxes.prompts.empty());
+    EXPECT_EQ(desk.takeReports(), Texts());
 }
 
 TEST_F(DataFile, LineThatFailsIsReportedAndPassedOverOnIgnore) {
-    struct Case {
-        std::string header, line;
-        int number;
-    };
-    for (const Case& it : {Case{"[StammNumbers]", "2", 5}, Case{"[StammNumbers]", "10", 5},
-                           Case{"[Favorites]", "10", 5}, Case{"[Win/Loss]", "Win:", 13},
-                           Case{"[Win/Loss]", "Large:many", 13}}) {
-        ResetSharedState();
-        gdblWin = gdblLargest = 7;
-        gstrStammNumbers.fill("kept");
-        gstrFavorites.fill("kept");
-        const auto before = tests::storedValues();
-        boxes.prompts.clear();
-        boxes.answers = {toolkit::Retry, toolkit::Ignore};
-        read(it.header + "\r\n" + it.line + "\r\n[Win/Loss]\r\nDate:next\r\n");
-        EXPECT_EQ(gstrBankrollDate, "next") << it.line;
-        gstrBankrollDate.clear();
-        EXPECT_EQ(tests::storedValues(), before) << it.line;
-        ASSERT_EQ(boxes.prompts.size(), 2u) << it.line;
-        EXPECT_TRUE(
-            boxes.prompts[1].starts_with("An error has occured: " + std::to_string(it.number)));
-        EXPECT_TRUE(boxes.prompts[1].ends_with("\r\nReadLottoFile"));
+    gdblWin = gdblLargest = 7;
+    gstrStammNumbers.fill("kept");
+    gstrFavorites.fill("kept");
+    const StoredValues before = stored();
+    for (const auto& [text, number] : {std::pair("[StammNumbers]\r2", "5"),
+                                       {"[StammNumbers]\r10", "5"},
+                                       {"[Favorites]\r10", "5"},
+                                       {"[Win/Loss]\rWin:", "13"},
+                                       {"[Win/Loss]\rLarge:many", "13"}}) {
+        desk.answers = {Retry, Ignore};
+        read(std::string(text) + "\r\n[Win/Loss]\r\nDate:next\r\n");
+        EXPECT_EQ(std::exchange(gstrBankrollDate, ""), "next") << text;
+        EXPECT_EQ(stored(), before) << text;
+        EXPECT_EQ(desk.takeReports(), Texts(2, number + std::string(" ReadLottoFile"))) << text;
     }
-    boxes.answers = {toolkit::Abort};
-    read("[Win/Loss]\rWin:\rDate:x");
-    EXPECT_EQ(gstrBankrollDate, "") << "nothing behind the line is read after Abort";
+    read("[Win/Loss]\rWin:\rDate:x"); // to which the answer is Abort
+    EXPECT_EQ(gstrBankrollDate, "");
 }
 
 TEST_F(DataFile, ReadFailureMeetsTheAnswers) {
     failAt("readLine", platform::DeviceError, 2);
-    boxes.answers = {toolkit::Retry, toolkit::Ignore};
+    desk.answers = {Retry, Ignore};
     read(tests::wholeFile());
-    EXPECT_EQ(gstrBankrollDate, "3/2/2005");
-    ResetSharedState();
+    EXPECT_EQ(std::exchange(gstrBankrollDate, ""), "3/2/2005");
     failAt("openForInput", platform::PathAccess);
-    boxes.answers = {toolkit::Ignore};
-    read(tests::wholeFile());
-    EXPECT_EQ(tests::storedValues(), tests::StoredValues());
-    EXPECT_EQ(boxes.prompts.size(), 3u);
+    desk.answers = {Ignore};
+    read();
+    EXPECT_EQ(gstrBankrollDate, "");
+    EXPECT_EQ(desk.takeReports().back(), "75 ReadLottoFile");
 }
 
 TEST_F(DataFile, OldContentStandsUntilTheNewIsWhole) {
     const std::string old = content() = tests::wholeFile();
     gstrFavorites[3] = "new";
     for (const char* operation : {"remove", "openForAppend", "writeLine", "close"}) {
-        boxes.answers = {toolkit::Abort};
-        failAt(operation, platform::DiskFull);
-        cQuorvantaLite().WriteLottoFile();
+        failAt(operation, platform::DiskFull); // to which the answer is Abort
+        write();
         EXPECT_EQ(content(), old) << operation;
-        EXPECT_TRUE(boxes.prompts.back().ends_with("\r\nWriteLottoFile")) << operation;
+        EXPECT_EQ(desk.takeReports(), Texts({"61 WriteLottoFile"})) << operation;
     }
-    boxes.answers = {toolkit::Retry, toolkit::Retry};
     failAt("close", platform::DiskFull, 2);
-    cQuorvantaLite().WriteLottoFile();
+    desk.answers = {Retry, Retry};
+    write();
     EXPECT_NE(content().find("\r\n3.new\r\n"), std::string::npos);
     EXPECT_EQ(std::ranges::count(content(), '\n'), 33);
-    EXPECT_EQ(fake.files.content["/app/Quorvanta.bak"], old);
-    EXPECT_EQ(boxes.prompts.size(), 6u);
-}
-
-TEST_F(DataFile, NewestValuesStandBehindAnOldFileThatCouldNotBeDeleted) {
-    content() = tests::wholeFile();
-    gstrFavorites[3] = "new";
-    gdblWin = 3;
-    const auto values = tests::storedValues();
-    failAt("remove", platform::PermissionDenied);
-    boxes.answers = {toolkit::Ignore};
-    cQuorvantaLite().WriteLottoFile();
-    EXPECT_EQ(std::ranges::count(content(), '\n'), 66);
-    ResetSharedState();
-    cQuorvantaLite().ReadLottoFile();
-    gstrBankrollDate.clear();
-    EXPECT_EQ(tests::storedValues(), values);
+    EXPECT_EQ(os.files.content["/app/Quorvanta.bak"], old);
 }
 
 } // namespace

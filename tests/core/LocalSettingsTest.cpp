@@ -1,149 +1,81 @@
 #include "common/ErrorReport.h"
 #include "common/MachineRecord.h"
 #include "common/cLocalSettings.h"
-#include "frame/Shared.h"
-#include "tests/support/FakePlatform.h"
-#include "toolkit/Form.h"
+#include "tests/support/ProgramTest.h"
 
-#include <gtest/gtest.h>
+#include <regex>
 
 using namespace quorvanta;
 
 namespace {
 
-struct LocalSettings : testing::Test {
-    tests::FakePlatform platform;
+struct LocalSettings : tests::ProgramTest {
     cLocalSettings settings;
 };
 
-TEST_F(LocalSettings, EachPropertyAsksForItsOwnItem) {
-    using Property = std::string (cLocalSettings::*)();
-    using c = cLocalSettings;
-    const std::pair<int, Property> rows[] = {
-        {36, &c::prpCenturyFormatSpecificer},
-        {35, &c::prpTimeFormatSpecifier},
-        {34, &c::prpLongDateFormatOrdering},
-        {33, &c::prpShortDateFormatOrdering},
-        {4099, &c::prpTimeFormat},
-        {32, &c::prpLongDateFormat},
-        {31, &c::prpShortDateFormat},
-        {30, &c::prpTimeSeperator},
-        {29, &c::prpDateSeperator},
-        {28, &c::prpNegativeCurrencyMode},
-        {27, &c::prpPositiveMonetaryMode},
-        {26, &c::prpIntlMonetaryDigits},
-        {25, &c::prpLocalMonetaryDigits},
-        {24, &c::prpMonetaryGrouping},
-        {23, &c::prpMonetaryThousandSeperator},
-        {22, &c::prpMonetaryDecimalSeperator},
-        {21, &c::prpIntlMonetarySymbol},
-        {20, &c::prpLocalCurrencySymbol},
-        {19, &c::prpNativeAscii},
-        {18, &c::prpLeadingZeros},
-        {17, &c::prpFractionalDigits},
-        {16, &c::prpDigitGrouping},
-        {15, &c::prpThousandSeperator},
-        {14, &c::prpDecimalSeperator},
-        {13, &c::prpMetrics},
-        {12, &c::prpListItemSeperator},
-        {11, &c::prpDefaultCodePage},
-        {10, &c::prpDefaultCountryCode},
-        {9, &c::prpDefaultLanguageId},
-        {8, &c::prpNativeNameOfCountry},
-        {7, &c::prpAbbrevCountryName},
-        {4098, &c::prpEnglishNameOfCountry},
-        {6, &c::prpLocalizedNameOfCountry},
-        {5, &c::prpCountryCode},
-        {4, &c::prpNativeNameOfLanguage},
-        {3, &c::prpAbbreviatedLanguageName},
-        {1, &c::prpLanguageId},
-        {2, &c::prpLocalLanguageName},
-        {4097, &c::prpLocalLanguageEnglishName},
-        {20, &c::prpLocalCurrency},
-        {4098, &c::prpLocalCountry},
-    };
-    ASSERT_EQ(std::size(rows), 41U);
-    for (const auto& [item, property] : rows) {
-        platform.locale.items = {{item, std::to_string(1000 + item)}};
-        EXPECT_EQ((settings.*property)(), std::to_string(1000 + item));
-    }
+TEST_F(LocalSettings, TheRecordOfAStartNamesEachItemInOrder) {
+    for (int item = 1; item < 40; ++item)
+        os.locale.items[item] = std::to_string(item);
+    for (const int item : {4097, 4098, 4099})
+        os.locale.items[item] = std::to_string(item);
+    os.locale.items.erase(7);
+    WriteDebugLog(0, "", "", {});
+    std::string& log = os.files.content["/app/DebugLog.TXT"];
+    log.clear();
+    WriteSystemData();
+    log = std::regex_replace(log, std::regex("\"\r\n\"Description: |\""), "");
+    EXPECT_EQ(std::regex_replace(log, std::regex("\r\n\r\n"), "|"),
+              "Computer Name: OFFICE1|Computer UserName: leipreir|Country Name: |CountryCode: 5|"
+              "Date Seperator: 29|Decimal Seperator: 14|CountryCode: 5|Default Code Page: 11|"
+              "Default Country Code: 10|Default Language Id: 9|English Name of Country: 4098|"
+              "Intl. Monetary Symbol: 21|Language Id: 1|Leading Zeros: 18|ListItem Seperator: 12|"
+              "Local Country: 4098|Local Currency: 20|Local Currency Symbol: 20|"
+              "Localized Name of Country: 6|Local Language English Name: 4097|"
+              "Local Language Name: 2|Local Monetary Digits: 25|Long Date Format: 32|"
+              "Long Date Format Ordering: 34|Metrics: 13|Monetary Decimal Seperator: 22|"
+              "Native Ascii: 19|Native Name of Country: 8|Native Name of Language: 4|"
+              "Native Currence Mode: 28|Positive Monetary Mode: 27|Short Date Format: 31|"
+              "Short Date Format Ordering: 33|Thousand Seperator: 15|Time Format: 4099|"
+              "Time Format Specifier: 35|Time Seperator: 30|End of Debug Info Gathering ||");
+    EXPECT_EQ(gstrShortDateFormat, "31");
 }
 
 TEST_F(LocalSettings, AFailedReadIsEmptyAndNeverTheValueOfTheOneBefore) {
-    EXPECT_EQ(settings.prpCountryCode(), "");
     EXPECT_EQ(settings.prpShortDateFormat(), "M/d/yyyy");
     EXPECT_EQ(settings.prpCountryCode(), "");
-    EXPECT_EQ(settings.prpShortDateFormat(), "M/d/yyyy");
-    platform.locale.items[31] = "dd.MM.yyyy";
+    os.locale.items[31] = "dd.MM.yyyy";
     EXPECT_EQ(settings.prpShortDateFormat(), "dd.MM.yyyy");
-    platform.locale.items[8] = std::string(98, 'x');
+    os.locale.items[8] = std::string(98, 'x');
     EXPECT_EQ(settings.prpNativeNameOfCountry(), std::string(98, 'x'));
     EXPECT_EQ(settings.prpDecimalSeperator(), ".");
-    platform.locale.items[8] = std::string(99, 'x');
+    os.locale.items[8] += 'x'; // does not fit
     EXPECT_EQ(settings.prpNativeNameOfCountry(), "");
 }
 
 TEST_F(LocalSettings, MetricsNamesTheTwoSystemsAndFailsWithoutAnAnswer) {
-    for (const auto& [value, text] :
-         std::map<std::string, std::string>{{"0", "Metric"}, {"1", "US"}, {"2", "2"}}) {
-        platform.locale.items[13] = value;
+    for (const auto& [value, text] : {std::pair("0", "Metric"), {"1", "US"}, {"2", "2"}}) {
+        os.locale.items[13] = value;
         EXPECT_EQ(settings.prpMetrics(), text);
     }
-    platform.locale.items.erase(13);
-    try {
-        settings.prpMetrics();
-        FAIL();
-    } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.number, platform::TypeMismatch);
-    }
+    os.locale.items.erase(13);
+    EXPECT_THROW(settings.prpMetrics(), platform::RuntimeError);
 }
 
 TEST_F(LocalSettings, NamesAndDirectoriesThatDoNotFitAreEmpty) {
     settings.prpComputerName("set by hand");
     EXPECT_EQ(settings.prpComputerName(), "OFFICE1");
-    EXPECT_EQ(settings.prpComputerUserName(), "leipreir");
-    EXPECT_EQ(settings.prpWinDirectory(), "/usr/bin");
-    EXPECT_EQ(settings.prpWinSysDirectory(), "/usr/sbin");
-    platform.machine = {};
-    platform.machine.user = platform.machine.computer = std::string(256, 'x');
-    platform.machine.windows = platform.machine.system = std::string(255, 'x');
-    EXPECT_EQ(settings.prpComputerName() + settings.prpComputerUserName(), "");
-    EXPECT_EQ(settings.prpWinDirectory() + settings.prpWinSysDirectory(), "");
+    EXPECT_EQ(settings.prpWinDirectory() + settings.prpWinSysDirectory(), "/usr/bin/usr/sbin");
+    os.machine.user = os.machine.computer = std::string(256, 'x');
+    os.machine.windows = os.machine.system = std::string(255, 'x');
+    EXPECT_EQ(settings.prpComputerName() + settings.prpComputerUserName() +
+                  settings.prpWinDirectory() + settings.prpWinSysDirectory(),
+              "");
 }
 
 TEST_F(LocalSettings, ABufferWithoutANulWasNeverFilled) {
     EXPECT_EQ(cLocalSettings::StringFromBuffer({"ab\0cd\0", 6}), "ab");
     EXPECT_EQ(cLocalSettings::StringFromBuffer("abcd"), "");
     EXPECT_EQ(cLocalSettings::StringFromBuffer(""), "");
-    EXPECT_EQ(cLocalSettings::StringFromBuffer({"\0ab", 3}), "");
-}
-
-std::vector<std::string> linesOf(const std::string& log) {
-    std::vector<std::string> lines;
-    for (std::size_t at = 0; at < log.size(); at = log.find('\n', at) + 1)
-        lines.push_back(log.substr(at, log.find('\r', at) - at));
-    return lines;
-}
-
-TEST_F(LocalSettings, TheRecordOfAStartHasItsThirtyNineEntriesInOrder) {
-    StartNewDebugLog();
-    toolkit::App.Path = platform.files.programDirectory();
-    gstrShortDateFormat.clear();
-    platform.locale.items[5] = "1";
-    WriteSystemData();
-    const auto lines = linesOf(platform.files.content["/app/DebugLog.TXT"]);
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), ""), 39);
-    const std::vector<std::string> begin(lines.begin(), lines.begin() + 8);
-    EXPECT_EQ(begin,
-              (std::vector<std::string>{"\"Computer Name: \"", "\"Version 3.5.7\"",
-                                        "\"Description: OFFICE1\"", "", "\"Computer UserName: \"",
-                                        "\"Description: leipreir\"", "", "\"Country Name: \""}));
-    EXPECT_EQ(lines[8], ""); // no item 7 here, and so no description
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "\"CountryCode: \""), 2);
-    const std::vector<std::string> end(lines.end() - 7, lines.end());
-    EXPECT_EQ(end, (std::vector<std::string>{"\"Time Seperator: \"", "\"Description: :\"", "",
-                                             "\"End of Debug Info Gathering \"", "", "\"\"", ""}));
-    EXPECT_EQ(gstrShortDateFormat, "M/d/yyyy");
 }
 
 } // namespace

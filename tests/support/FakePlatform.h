@@ -10,8 +10,8 @@
 #include <functional>
 #include <map>
 #include <random>
+#include <sstream>
 #include <string>
-#include <vector>
 
 namespace tests {
 
@@ -19,8 +19,7 @@ namespace tests {
 struct ProcessEnded {};
 
 struct FakeProcess : platform::Process {
-    bool another = false;
-    bool ended = false;
+    bool another = false, ended = false;
 
     bool prevInstance() const override { return another; }
     [[noreturn]] void end() override {
@@ -30,9 +29,7 @@ struct FakeProcess : platform::Process {
 };
 
 struct FakeClock : platform::Clock {
-    platform::DateTime time{2005, 7, 25, 18, 42, 7};
-
-    platform::DateTime now() const override { return time; }
+    platform::DateTime now() const override { return {2005, 7, 25, 18, 42, 7}; }
 };
 
 // Gives the values of `script` first, then those of a generator with a fixed seed.
@@ -55,18 +52,15 @@ struct FakeSettings : platform::Settings {
     std::map<std::string, std::string> values; // by "application/section/key"
     int saves = 0;
 
-    static std::string name(const std::string& a, const std::string& s, const std::string& k) {
-        return a + "/" + s + "/" + k;
-    }
-    std::string get(const std::string& a, const std::string& s, const std::string& k,
-                    const std::string& fallback) const override {
-        const auto it = values.find(name(a, s, k));
+    std::string get(const std::string& application, const std::string& section,
+                    const std::string& key, const std::string& fallback) const override {
+        const auto it = values.find(application + "/" + section + "/" + key);
         return it == values.end() ? fallback : it->second;
     }
-    void save(const std::string& a, const std::string& s, const std::string& k,
+    void save(const std::string& application, const std::string& section, const std::string& key,
               const std::string& value) override {
         ++saves;
-        values[name(a, s, k)] = value;
+        values[application + "/" + section + "/" + key] = value;
     }
 };
 
@@ -81,34 +75,35 @@ struct FakeFiles : platform::Files {
         if (fault)
             fault(operation, path);
     }
+    void checkThere(const std::string& operation, const std::string& path) const {
+        check(operation, path);
+        if (!exists(path))
+            throw platform::RuntimeError(platform::FileNotFound);
+    }
 
     struct Input : platform::InputFile {
         const FakeFiles& files;
-        std::string path, rest;
-        std::size_t at = 0;
+        std::string path;
+        std::istringstream text;
 
-        Input(const FakeFiles& f, std::string p, std::string text)
-            : files(f), path(std::move(p)), rest(std::move(text)) {}
+        Input(const FakeFiles& f, const std::string& p)
+            : files(f), path(p), text(f.content.at(p)) {}
         bool readLine(std::string& line) override {
             files.check("readLine", path);
-            if (at >= rest.size())
-                return false;
-            const std::size_t end = std::min(rest.find('\r', at), rest.size());
-            line = rest.substr(at, end - at);
-            at = end + 1;
-            if (at < rest.size() && rest[at] == '\n')
-                ++at;
-            return true;
+            const bool any = bool(std::getline(text, line, '\r'));
+            if (text.peek() == '\n')
+                text.get();
+            return any;
         }
     };
     struct Output : platform::OutputFile {
         FakeFiles& files;
         std::string path;
 
-        Output(FakeFiles& f, std::string p) : files(f), path(std::move(p)) {}
+        Output(FakeFiles& f, const std::string& p) : files(f), path(p) {}
         void writeLine(std::string_view line) override {
             files.check("writeLine", path);
-            files.content[path] += std::string(line) + "\r\n";
+            files.content[path].append(line).append("\r\n");
         }
         void close() override { files.check("close", path); }
     };
@@ -117,8 +112,8 @@ struct FakeFiles : platform::Files {
         std::string path, backup, text;
         bool fromOld = true;
 
-        NewContent(FakeFiles& f, std::string p, std::string b)
-            : files(f), path(std::move(p)), backup(std::move(b)) {}
+        NewContent(FakeFiles& f, const std::string& p, const std::string& b)
+            : files(f), path(p), backup(b) {}
         void discardOld() override {
             files.check("remove", path);
             fromOld = false;
@@ -127,11 +122,11 @@ struct FakeFiles : platform::Files {
         }
         void open() override {
             files.check("openForAppend", path);
-            text = fromOld ? files.content[path] : std::string();
+            text = fromOld ? files.content[path] : "";
         }
         void writeLine(std::string_view line) override {
             files.check("writeLine", path);
-            text += std::string(line) + "\r\n";
+            text.append(line).append("\r\n");
         }
         void close() override {
             files.check("close", path);
@@ -151,15 +146,12 @@ struct FakeFiles : platform::Files {
     }
     bool exists(const std::string& path) const override { return content.contains(path); }
     void remove(const std::string& path) override {
-        check("remove", path);
-        if (content.erase(path) == 0)
-            throw platform::RuntimeError(platform::FileNotFound);
+        checkThere("remove", path);
+        content.erase(path);
     }
     std::unique_ptr<platform::InputFile> openForInput(const std::string& path) override {
-        check("openForInput", path);
-        if (!exists(path))
-            throw platform::RuntimeError(platform::FileNotFound);
-        return std::make_unique<Input>(*this, path, content[path]);
+        checkThere("openForInput", path);
+        return std::make_unique<Input>(*this, path);
     }
     std::unique_ptr<platform::OutputFile> openForAppend(const std::string& path) override {
         check("openForAppend", path);
@@ -172,30 +164,30 @@ struct FakeFiles : platform::Files {
     }
 };
 
+// Fills a buffer as the system does; gives the text's length, or 0 if it doesn't fit.
+inline int fill(char* buffer, int size, const std::string& text) {
+    if (static_cast<int>(text.size()) >= size)
+        return 0;
+    std::memcpy(buffer, text.c_str(), text.size() + 1);
+    return static_cast<int>(text.size());
+}
+
 // An American user's locale by default; a test changes the items it wants otherwise. Text is taken
 // for ASCII.
 struct FakeLocale : platform::Locale {
-    std::map<int, std::string> items{{1, "0409"},
-                                     {14, "."},
-                                     {15, ","},
-                                     {29, "/"},
-                                     {30, ":"},
-                                     {31, "M/d/yyyy"},
-                                     {33, "0"},
-                                     {36, "1"},
-                                     {4099, "h:mm:ss tt"},
-                                     {40, "AM"},
-                                     {41, "PM"},
-                                     {13, "1"},
-                                     {32, "dddd, MMMM d, yyyy"},
-                                     {12, ","}};
+    std::map<int, std::string> items{{1, "0409"}, {12, ","},  {13, "1"}, {14, "."},
+                                     {15, ","},   {29, "/"},  {30, ":"}, {33, "0"},
+                                     {36, "1"},   {40, "AM"}, {41, "PM"}};
 
+    FakeLocale() {
+        items[31] = "M/d/yyyy";
+        items[32] = "dddd, MMMM d, yyyy";
+        items[4099] = "h:mm:ss tt";
+    }
     int GetLocaleInfoA(int, int item, char* buffer, int size) const override {
         const auto it = items.find(item);
-        if (it == items.end() || static_cast<int>(it->second.size()) >= size)
-            return 0;
-        std::memcpy(buffer, it->second.c_str(), it->second.size() + 1);
-        return static_cast<int>(it->second.size()) + 1;
+        const int length = it == items.end() ? 0 : fill(buffer, size, it->second);
+        return length > 0 ? length + 1 : 0;
     }
     std::string fromBytes(std::string_view bytes) const override { return std::string(bytes); }
     std::string toBytes(std::string_view text) const override { return std::string(text); }
@@ -204,22 +196,10 @@ struct FakeLocale : platform::Locale {
 struct FakeMachine : platform::Machine {
     std::string user = "leipreir", computer = "OFFICE1", windows = "/usr/bin", system = "/usr/sbin";
 
-    static int copy(const std::string& text, char* buffer, int size) {
-        if (static_cast<int>(text.size()) >= size)
-            return 0;
-        std::memcpy(buffer, text.c_str(), text.size() + 1);
-        return static_cast<int>(text.size());
-    }
-    bool GetUserNameA(char* buffer, int size) const override { return copy(user, buffer, size); }
-    bool GetComputerNameA(char* buffer, int size) const override {
-        return copy(computer, buffer, size);
-    }
-    int GetWindowsDirectoryA(char* buffer, int size) const override {
-        return copy(windows, buffer, size);
-    }
-    int GetSystemDirectoryA(char* buffer, int size) const override {
-        return copy(system, buffer, size);
-    }
+    bool GetUserNameA(char* to, int size) const override { return fill(to, size, user); }
+    bool GetComputerNameA(char* to, int size) const override { return fill(to, size, computer); }
+    int GetWindowsDirectoryA(char* to, int size) const override { return fill(to, size, windows); }
+    int GetSystemDirectoryA(char* to, int size) const override { return fill(to, size, system); }
 };
 
 struct FakePlatform {
@@ -235,7 +215,6 @@ struct FakePlatform {
     FakePlatform() { platform::install(&all); }
     ~FakePlatform() { platform::install(nullptr); }
     FakePlatform(const FakePlatform&) = delete;
-    FakePlatform& operator=(const FakePlatform&) = delete;
 };
 
 } // namespace tests

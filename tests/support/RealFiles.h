@@ -8,7 +8,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 #include <stdlib.h>
 
@@ -26,15 +25,12 @@ struct RealFiles : platform::LinuxFiles {
         std::filesystem::remove_all(directory, failure);
     }
     RealFiles(const RealFiles&) = delete;
-    RealFiles& operator=(const RealFiles&) = delete;
 
     std::string programDirectory() const override { return directory; }
     std::string path(const std::string& name) const { return join(directory, name); }
-
     std::string content(const std::string& name) const {
-        std::ostringstream text;
-        text << std::ifstream(path(name), std::ios::binary).rdbuf();
-        return text.str();
+        std::ifstream file(path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
     }
     void create(const std::string& name, const std::string& text) const {
         std::ofstream(path(name), std::ios::binary) << text;
