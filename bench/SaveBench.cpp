@@ -90,7 +90,7 @@ int main(int count, char** arguments) {
     for (int turn = 0; turn < turns; ++turn)
         for (Contender& contender : contenders)
             contender.times.push_back(microseconds([&] { contender.turn(turn); }));
-    must(boxes.prompts.empty());
+    must(boxes.boxes.empty());
 
     const double plain = contenders[0].at(0.5);
     std::cout << turns << " turns of " << text.size() << " bytes, in microseconds\n";
