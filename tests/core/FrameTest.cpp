@@ -75,14 +75,15 @@ TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
         press(key);
     EXPECT_EQ(loaded(), (Names{"MDIForm1", "frmMain", "frmCustomize6", "frmFavorites"}));
     userClick(frmMain::the().cmdJackpot);
-    const auto colour = [](int n) { return frmMain::the().lbl1(n).ForeColor.get(); };
-    std::vector<int> before, after;
-    for (int n = 1; n <= 49; ++n)
-        before.push_back(colour(n));
+    const auto colours = [] {
+        std::vector<int> all;
+        for (int n = 1; n <= 49; ++n)
+            all.push_back(frmMain::the().lbl1(n).ForeColor);
+        return all;
+    };
+    const auto before = colours();
     userClick(frmFavorites::the().mnuMainForm);
-    for (int n = 1; n <= 49; ++n)
-        after.push_back(colour(n));
-    EXPECT_EQ(before, after);
+    EXPECT_EQ(before, colours());
     EXPECT_EQ(toolkit::Screen.ActiveForm(), &frmMain::the());
     EXPECT_EQ(frmMain::the().Left, (frame().Width - frmMain::the().Width) / 2);
     EXPECT_EQ(frmMain::the().Top, 0);
@@ -91,41 +92,32 @@ TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
     EXPECT_EQ(desk.helps.size(), 1U);
 }
 
-TEST_F(FrameTest, NoToTheExitQuestionChangesNothing) {
-    frame();
-    press("lotto");
-    const auto ways = {std::function<void()>([] { press("exit"); }),
-                       std::function<void()>([&] { userClick(frame().mnuExit); }),
-                       std::function<void()>([&] { frame().Unload(toolkit::FormControlMenu); })};
-    for (const auto& way : ways) {
-        desk.answers = {toolkit::No};
-        way();
-        EXPECT_EQ(desk.takeBoxes(), Names{"Exiting Quor Vanta "});
-        EXPECT_EQ(loaded(), (Names{"MDIForm1", "frmMain"}));
-        EXPECT_FALSE(os.files.exists(kData));
-    }
-}
-
-TEST_F(FrameTest, YesAsksOnceSavesOnceAndEndsFromEveryWay) {
+TEST_F(FrameTest, EveryWayOutAsksOnceSavesOnceAndEndsUnlessTheAnswerIsNo) {
     const std::vector<std::pair<std::size_t, std::function<void()>>> ways{
         {1, [] { press("exit"); }},
         {1, [&] { userClick(frame().mnuExit); }},
         {1, [&] { frame().Unload(toolkit::FormControlMenu); }},
         {0, [&] { frame().Unload(toolkit::AppWindows); }},
         {0, EndRunForSystem}};
+    int saves = 0;
+    os.files.fault = [&](const std::string& operation, const std::string& path) {
+        saves += operation == "close" && path == kData ? 1 : 0;
+    };
     for (const auto& [questions, way] : ways) {
-        os.files.content.clear();
         frame();
         for (const char* key : {"lotto", "customizesix", "favorites"})
             press(key);
+        if (questions > 0) {
+            desk.answers = {toolkit::No};
+            way();
+            EXPECT_EQ(desk.takeBoxes(), Names{"Exiting Quor Vanta "});
+            EXPECT_EQ(loaded().size(), 4U);
+            EXPECT_EQ(saves, 0);
+        }
         desk.answers = {toolkit::Yes};
-        int saves = 0;
-        os.files.fault = [&](const std::string& operation, const std::string& path) {
-            saves += operation == "close" && path == kData ? 1 : 0;
-        };
         EXPECT_THROW(way(), ProcessEnded);
         EXPECT_EQ(desk.takeBoxes().size(), questions);
-        EXPECT_EQ(saves, 1);
+        EXPECT_EQ(std::exchange(saves, 0), 1);
         EXPECT_EQ(toolkit::Forms.Count(), 0);
         toolkit::Form::dropAll();
     }

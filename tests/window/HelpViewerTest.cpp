@@ -20,7 +20,10 @@ protected:
     }
     void showFile() {
         desktop_qt::showHelp(nullptr, path);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(viewer()));
+        ASSERT_TRUE(QTest::qWaitFor([] {
+            viewer()->activateWindow();
+            return viewer()->isActiveWindow();
+        }));
     }
     static QWidget* viewer() {
         const auto all = QApplication::topLevelWidgets();

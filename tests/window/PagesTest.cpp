@@ -14,14 +14,10 @@
 #include <QtTest>
 #include <QtWidgets>
 
-#include <numeric>
-
 namespace {
 
 using namespace quorvanta;
 using namespace tests;
-
-desktop_qt::QtDesktop* qt = nullptr;
 
 QWidget& widget(const toolkit::Control& control) {
     return *desktop_qt::widgetOf(control);
@@ -43,15 +39,11 @@ void xdotool(const QStringList& arguments) {
 
 QStringList clickAt(const QWidget& at, QPoint point, int times = 1) {
     const QPoint where = at.mapToGlobal(point);
-    return {"mousemove",
-            QString::number(where.x()),
-            QString::number(where.y()),
-            "click",
-            "--repeat",
-            QString::number(times),
-            "--delay",
-            "60",
-            "1"};
+    return QStringLiteral("mousemove %1 %2 click --repeat %3 --delay 60 1")
+        .arg(where.x())
+        .arg(where.y())
+        .arg(times)
+        .split(' ');
 }
 void click(const QWidget& at, QPoint point, int times = 1) {
     xdotool(clickAt(at, point, times));
@@ -255,7 +247,6 @@ TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {
 
 int main(int argc, char** argv) {
     desktop_qt::QtDesktop desktop(argc, argv);
-    qt = &desktop;
     toolkit::install(&desktop);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
