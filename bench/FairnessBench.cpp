@@ -4,7 +4,7 @@
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "platform/linux/LinuxClock.h"
-#include "tests/support/Fairness.h"
+#include "bench/Fairness.h"
 #include "tests/support/FakePlatform.h"
 
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "tests/support/Fairness.h"
+#include "bench/Fairness.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "tests/support/ProgramTest.h"
