@@ -24,7 +24,7 @@ protected:
 
     int roll(int below) { return static_cast<int>(dice() % static_cast<unsigned>(below)); }
     template <class T>
-    const T& any(const std::vector<T>& of) {
+    T any(const std::vector<T>& of) {
         return of[dice() % of.size()];
     }
 
@@ -62,39 +62,27 @@ protected:
     }
 
     void onPage(frmCustomize6& page) {
-        using Events = std::vector<std::function<void()>>;
-        const auto key = [&] { userClick(page.cmdKey(1 + roll(49))); };
-        const auto row = [&] { userClickRow(page.grd1, roll(11)); };
-        const auto ctrl = [&] { userKey(page, kCtrlKey, roll(3) == 0 ? roll(8) : 2); };
-        const auto copy = [&] { userClick(page.cmdCopy); };
-        const auto file = [&] {
+        using Event = std::function<void()>;
+        const Event key = [&] { userClick(page.cmdKey(1 + roll(49))); };
+        const Event row = [&] { userClickRow(page.grd1, roll(11)); };
+        const Event twice = [&] { userDoubleClickRow(page.grd1, roll(11)); };
+        const Event ctrl = [&] { userKey(page, kCtrlKey, roll(3) == 0 ? roll(8) : 2); };
+        const Event keypad = [&] { userClick(roll(4) == 0 ? page.cmdAll : page.cmdReset); };
+        const Event remove = [&] { page.mnuDeleteGridRow.click(); };
+        const Event reset = [&] { page.mnuReset.click(); };
+        const Event copy = [&] { userClick(page.cmdCopy); };
+        const Event file = [&] {
             for (int n = 0; n < 7; ++n)
                 key();
             copy();
         };
-        const Events rare{[&] { userClick(page.cmdCancel); },
-                          [&] { page.mnuClose.click(); },
-                          mnuMainForm_Click,
-                          mnuFavorites_Click,
-                          mnuCustomize_Click,
-                          [] { MDIForm1::the().Unload(toolkit::FormControlMenu); }};
-        const Events often{key,
-                           key,
-                           key,
-                           row,
-                           row,
-                           row,
-                           ctrl,
-                           ctrl,
-                           copy,
-                           file,
-                           [&] { draw(page); },
-                           [&] { draw(page); },
-                           [&] { userDoubleClickRow(page.grd1, roll(11)); },
-                           [&] { userClick(roll(4) == 0 ? page.cmdAll : page.cmdReset); },
-                           [&] { (roll(2) == 0 ? page.mnuDeleteGridRow : page.mnuReset).click(); },
-                           any(rare)};
-        any(often)();
+        const Event jackpot = [&] { draw(page); };
+        const Event close = [&] { page.mnuClose.click(); };
+        const Event end = [] { MDIForm1::the().Unload(toolkit::FormControlMenu); };
+        const Event rare =
+            any<Event>({close, end, mnuMainForm_Click, mnuFavorites_Click, mnuCustomize_Click});
+        any<Event>({key, key, key, row, row, row, ctrl, ctrl, copy, file, jackpot, jackpot, twice,
+                    keypad, remove, reset, rare})();
     }
 
     void draw(frmCustomize6& page) {
@@ -102,36 +90,26 @@ protected:
         const int before = nested;
         page.mnuJackpotGenerator.click();
         ++draws;
-        if (nested != before)
-            return; // two draws may have left their marks together
-        int pool = 0, red = 0;
-        for (int n = 1; n <= 49; ++n) {
-            pool += page.Label1(n).Enabled ? 1 : 0;
-            red += page.Label1(n).ForeColor == toolkit::kRed ? 1 : 0;
-        }
-        EXPECT_EQ(red, std::min(6, pool));
+        // Nested draws may have left their marks together.
+        EXPECT_TRUE(nested != before ||
+                    drawn(page).size() == std::min<std::size_t>(6, pool(page).size()));
     }
 
     // The stored rows are those of the grid, and the filled ones stand at the top.
     void check() {
-        auto* const page = frmCustomize6::ifLoaded();
-        if (!page)
-            return;
-        for (int r = 1; r <= 10; ++r) {
+        const auto* const page = frmCustomize6::ifLoaded();
+        bool free = false;
+        for (int r = 1; page && r <= 10; ++r) {
             std::string cells, stored = gstrStammNumbers.at(static_cast<std::size_t>(r));
             for (int c = 1; c <= 49; ++c)
                 cells += page->grd1.text(r, c) + ";";
             stored.erase(stored.find_last_of(';') + 1); // a cell without its end is no cell
-            while (std::count(stored.begin(), stored.end(), ';') < 49)
+            while (std::ranges::count(stored, ';') < 49)
                 stored += ';';
             ASSERT_EQ(cells, stored) << r;
+            ASSERT_TRUE(!free || cells.front() == ';') << r;
+            free = cells.front() == ';';
         }
-        bool free = false;
-        for (int r = 1; r <= 10; ++r) {
-            ASSERT_TRUE(!free || page->grd1.TextMatrix(r, 1).empty()) << firstCells(*page);
-            free = page->grd1.TextMatrix(r, 1).empty();
-        }
-        ASSERT_EQ(page->grd1.text(0, 1) + page->grd1.text(10, 0), "# 110.");
     }
 };
 
@@ -151,9 +129,6 @@ TEST_F(MonkeyTest, WhatMustAlwaysHoldDoesWhateverIsDone) {
         check();
     }
     EXPECT_TRUE(draws > events / 20 && nested > events / 200 && ended > 0);
-    RecordProperty("draws", draws);
-    RecordProperty("nested", nested);
-    RecordProperty("ended", ended);
 }
 
 } // namespace

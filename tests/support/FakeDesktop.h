@@ -13,42 +13,68 @@
 
 namespace tests {
 
+// Whether a click or the Tab key gives the control the focus.
+inline bool takesFocus(const toolkit::Control& control) {
+    const bool rightKind = dynamic_cast<const toolkit::CommandButton*>(&control) ||
+                           dynamic_cast<const toolkit::OptionButton*>(&control) ||
+                           dynamic_cast<const toolkit::TextBox*>(&control) ||
+                           dynamic_cast<const toolkit::MSFlexGrid*>(&control);
+    return rightKind && control.Enabled && control.Visible;
+}
+
+// The controls that take the focus, in the order in which Tab visits them.
+inline std::vector<toolkit::Control*> tabOrder(const toolkit::Container& container) {
+    std::vector<toolkit::Control*> order;
+    for (toolkit::Control* control : container.controls()) {
+        if (takesFocus(*control))
+            order.push_back(control);
+        if (const auto* inner = dynamic_cast<const toolkit::Container*>(control))
+            std::ranges::copy(tabOrder(*inner), std::back_inserter(order));
+    }
+    std::ranges::stable_sort(order, {}, &toolkit::Control::TabIndex);
+    return order;
+}
+
 struct FakeDesktop : toolkit::Desktop {
     std::vector<toolkit::MessageBox> boxes; // in the order in which they were shown
     std::deque<int> answers;                // to the boxes; their default button once it is empty
     std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
-    std::function<void(toolkit::Form&)> onModal;            // what the user does on a modal form
     std::vector<std::pair<std::string, std::string>> helps; // the form's name, the help file
-    bool loopEnded = false;
     std::vector<std::vector<toolkit::PrintedText>> printed; // page by page
     // Asked before each operation of the printer, by its name, and may throw.
-    std::function<void(const std::string& operation)> printerFault;
+    std::function<void(const std::string& operation)> printerFault = [](const auto&) {};
 
     // Lines of 23 twips a point, characters of 10 twips a point.
     struct PrinterDevice : toolkit::PrinterDevice {
         FakeDesktop& desk;
         explicit PrinterDevice(FakeDesktop& of) : desk(of) {}
         double lineHeight(const toolkit::Font& font) override {
-            desk.checkPrinter("lineHeight");
+            desk.printerFault("lineHeight");
             return 23 * font.size;
         }
         double averageCharWidth(const toolkit::Font& font) override { return 10 * font.size; }
         void print(const std::vector<toolkit::PrintedText>& page) override {
-            desk.checkPrinter("print");
+            desk.printerFault("print");
             desk.printed.push_back(page);
         }
     };
 
-    void show(toolkit::Form& form, bool modal) override;
+    // A form that comes to the front gets the focus where it was, at first on its first control.
+    void show(toolkit::Form& form, bool /*modal*/) override {
+        const auto order = tabOrder(form);
+        if (form.ActiveControl)
+            form.ActiveControl->SetFocus();
+        else if (!order.empty())
+            order.front()->SetFocus();
+    }
     int messageBox(const toolkit::MessageBox& box) override {
         boxes.push_back(box);
         if (onBox)
             onBox();
-        if (answers.empty())
-            return box.defaultAnswer();
-        const int answer = answers.front();
-        answers.pop_front();
+        const int answer = answers.empty() ? box.defaultAnswer() : answers.front();
+        if (!answers.empty())
+            answers.pop_front();
         return answer;
     }
     void doEvents() override {
@@ -61,15 +87,10 @@ struct FakeDesktop : toolkit::Desktop {
         helps.emplace_back(owner.name(), file);
     }
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override {
-        checkPrinter("newPrinterDevice");
+        printerFault("newPrinterDevice");
         return std::make_unique<PrinterDevice>(*this);
     }
-    void endLoop() override { loopEnded = true; }
 
-    void checkPrinter(const std::string& operation) const {
-        if (printerFault)
-            printerFault(operation);
-    }
     // The texts of the boxes shown since the last call.
     std::vector<std::string> takeBoxes() {
         std::vector<std::string> texts;
@@ -89,61 +110,19 @@ struct FakeDesktop : toolkit::Desktop {
     }
 };
 
-// Whether a click or the Tab key gives the control the focus.
-inline bool takesFocus(const toolkit::Control& control) {
-    const bool rightKind = dynamic_cast<const toolkit::CommandButton*>(&control) ||
-                           dynamic_cast<const toolkit::OptionButton*>(&control) ||
-                           dynamic_cast<const toolkit::TextBox*>(&control) ||
-                           dynamic_cast<const toolkit::MSFlexGrid*>(&control);
-    return rightKind && control.Enabled && control.Visible;
-}
-
-inline void collectFocusable(const toolkit::Container& container,
-                             std::vector<toolkit::Control*>& all) {
-    for (toolkit::Control* control : container.controls()) {
-        if (takesFocus(*control))
-            all.push_back(control);
-        if (const auto* inner = dynamic_cast<const toolkit::Container*>(control))
-            collectFocusable(*inner, all);
-    }
-}
-
-// The controls that take the focus, in the order in which Tab visits them.
-inline std::vector<toolkit::Control*> tabOrder(const toolkit::Form& form) {
-    std::vector<toolkit::Control*> order;
-    collectFocusable(form, order);
-    std::stable_sort(order.begin(), order.end(),
-                     [](auto* a, auto* b) { return a->TabIndex < b->TabIndex; });
-    return order;
-}
-
-// A form that comes to the front gets the focus where it was, at first on its first control.
-inline void FakeDesktop::show(toolkit::Form& form, bool modal) {
-    const auto order = tabOrder(form);
-    if (form.ActiveControl)
-        form.ActiveControl->SetFocus();
-    else if (!order.empty())
-        order.front()->SetFocus();
-    if (modal && onModal)
-        onModal(form);
-}
-
 // A click moves the focus before it is told.
 inline void userClick(toolkit::Control& control) {
-    const auto keep = control.form().shared_from_this();
     if (takesFocus(control))
         control.SetFocus();
     control.click();
 }
 
 inline void userClickRow(toolkit::MSFlexGrid& grid, int row) {
-    const auto keep = grid.form().shared_from_this();
     grid.SetFocus();
     grid.clickRow(row);
 }
 
 inline void userDoubleClickRow(toolkit::MSFlexGrid& grid, int row) {
-    const auto keep = grid.form().shared_from_this();
     userClickRow(grid, row);
     grid.doubleClick();
 }

@@ -7,52 +7,62 @@
 
 namespace tests {
 
+using Numbers = std::vector<int>;
 inline constexpr int kCtrlKey = 17;
 
-inline void pick(quorvanta::ListPage& page, const std::vector<int>& numbers) {
+// The numbers from 1 to 49 for which the condition holds.
+template <class Condition>
+Numbers numbersWhere(Condition holds) {
+    Numbers numbers;
+    for (int n = 1; n <= 49; ++n)
+        if (holds(n))
+            numbers.push_back(n);
+    return numbers;
+}
+inline Numbers picked(const quorvanta::ListPage& page) {
+    return numbersWhere([&](int n) { return page.cmdKey(n).FontBold.get(); });
+}
+inline Numbers pool(const quorvanta::frmCustomize6& page) {
+    return numbersWhere([&](int n) { return page.Label1(n).Enabled.get(); });
+}
+inline Numbers drawn(const quorvanta::frmCustomize6& page) {
+    return numbersWhere([&](int n) { return page.Label1(n).ForeColor == toolkit::kRed; });
+}
+
+template <class Page>
+Page& open() {
+    Page::the().Show();
+    return Page::the();
+}
+
+inline void pick(quorvanta::ListPage& page, const Numbers& numbers) {
     for (const int n : numbers)
         userClick(page.cmdKey(n));
 }
 
-inline std::string picked(const quorvanta::ListPage& page) {
-    std::string numbers;
-    for (int n = 1; n <= 49; ++n)
-        if (page.cmdKey(n).FontBold)
-            numbers += page.cmdKey(n).Caption.get() + " ";
-    return numbers;
-}
-
-// The first cells of the rows 1 to 10, "-" for an empty one.
-inline std::string firstCells(const quorvanta::RowTexts& rows) {
-    std::string cells;
-    for (std::size_t r = 1; r < rows.size(); ++r) {
-        const std::string cell = rows[r].substr(0, rows[r].find(';'));
-        cells += (r > 1 ? " " : "") + (cell.empty() ? "-" : cell);
-    }
-    return cells;
-}
-
-inline std::string firstCells(const quorvanta::ListPage& page) {
-    quorvanta::RowTexts rows;
-    for (int r = 1; r <= 10; ++r)
-        rows.at(static_cast<std::size_t>(r)) = page.grd1.text(r, 1);
-    return firstCells(rows);
-}
-
-// Row r is told by its first number, r.
-inline void fillRows(quorvanta::RowTexts& rows, int count) {
-    for (int r = 1; r <= count; ++r)
-        rows.at(static_cast<std::size_t>(r)) = std::to_string(r) + ";21;22;23;24;25;26;";
-}
-
-inline std::string menuText(const std::vector<toolkit::Menu*>& menus) {
+// A row as a file holds it: every seventh number from the first one on.
+inline std::string rowText(int first) {
     std::string text;
-    for (const toolkit::Menu* menu : menus) {
-        text += (text.empty() ? "" : "|") + menu->Caption.get() + (menu->Enabled ? "" : " (off)");
-        if (!menu->entries().empty())
-            text += "{" + menuText(menu->entries()) + "}";
-    }
+    for (int n = first; n <= 49; n += 7)
+        text += std::to_string(n) + ";";
     return text;
+}
+
+// Rows are told by their first number, a digit a row, and "-" for a free one.
+inline void fillRows(quorvanta::RowTexts& rows, const std::string& told) {
+    for (std::size_t i = 0; i < told.size(); ++i)
+        rows.at(i + 1) = told[i] == '-' ? "" : rowText(told[i] - '0');
+}
+// Likewise; "?" is a row that is not the one which begins with its number.
+inline std::string tell(const quorvanta::RowTexts& rows) {
+    std::string told;
+    for (std::size_t r = 1; r < rows.size(); ++r) {
+        const std::string cells = rows[r].substr(0, rows[r].find_last_not_of(';') + 1);
+        const bool whole = rowText(std::atoi(cells.c_str())).starts_with(cells) &&
+                           std::ranges::count(cells, ';') >= 5;
+        told += cells.empty() ? '-' : whole ? cells.front() : '?';
+    }
+    return told;
 }
 
 } // namespace tests
