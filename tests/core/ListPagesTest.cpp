@@ -48,6 +48,7 @@ TYPED_TEST(ListPagesTest, OnlyYesDeletesAndEachWayOutLeavesItsOwnCurrentRow) {
                            {"12345", -1, toolkit::Yes, "12345-----", "Yo", 0, 0},
                            // Of an edited file; one pass moves each row up once.
                            {"12--5", 1, toolkit::Yes, "2--5------", "Do", 0, 0}}) {
+        SCOPED_TRACE(c.before + ", row " + std::to_string(c.row));
         auto& page = this->open(c.before);
         this->desk.answers = {c.answer};
         if (c.row > 0)
@@ -56,11 +57,9 @@ TYPED_TEST(ListPagesTest, OnlyYesDeletesAndEachWayOutLeavesItsOwnCurrentRow) {
             pick(page, {1});
         if (c.row <= 0)
             page.mnuDeleteGridRow.click();
-        EXPECT_EQ(this->desk.takeBoxes().at(0).substr(0, 2), c.box) << c.before << c.row;
-        EXPECT_EQ(tell(this->rows), c.after)
-            << c.before << c.row; // stored before the page is closed
-        EXPECT_EQ(page.grd1.row(), this->kCustomize ? c.current : c.currentFavorites)
-            << c.before << c.row;
+        EXPECT_EQ(this->desk.takeBoxes().at(0).substr(0, 2), c.box);
+        EXPECT_EQ(tell(this->rows), c.after); // stored before the page is closed
+        EXPECT_EQ(page.grd1.row(), this->kCustomize ? c.current : c.currentFavorites);
         EXPECT_EQ(page.grd1.text(4, 0), "4.");
         page.Unload();
     }
@@ -94,6 +93,7 @@ TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
                            {"CD", this->kCustomize, "1234------", 1},
                            // Row 5, the first pick, is gone.
                            {"CD2", false, "1234------", this->kCustomize ? 2U : 1U}}) {
+        SCOPED_TRACE(c.events);
         auto& page = this->open();
         this->desk.answers = {toolkit::Yes};
         for (const char event : c.events)
@@ -101,10 +101,10 @@ TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
                 events.at(event)(page);
             else
                 userClickRow(page.grd1, event - '0');
-        EXPECT_EQ(page.statBar1.Panels(1).get(), c.on ? "Shift mode" : "") << c.events;
-        EXPECT_EQ(tell(this->rows), c.after) << c.events;
-        EXPECT_EQ(page.grd1.text(0, 1), "# 1") << c.events;
-        EXPECT_EQ(this->desk.takeBoxes().size(), c.boxes) << c.events;
+        EXPECT_EQ(page.statBar1.Panels(1).get(), c.on ? "Shift mode" : "");
+        EXPECT_EQ(tell(this->rows), c.after);
+        EXPECT_EQ(page.grd1.text(0, 1), "# 1");
+        EXPECT_EQ(this->desk.takeBoxes().size(), c.boxes);
         page.Unload();
     }
 }
