@@ -2,8 +2,8 @@
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libicu-dev
     libcups2-dev fonts-liberation)
-display_packages=(xvfb openbox imagemagick x11-utils xauth)
-test_packages=(libgtest-dev libbenchmark-dev xdotool strace cups cups-client
+display_packages=(xvfb openbox imagemagick x11-utils xdotool fonts-dejavu-core)
+test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     printer-driver-cups-pdf poppler-utils "${display_packages[@]}")
 check_packages=(clang-format)
 
