@@ -68,8 +68,8 @@ int main(int count, char** arguments) {
     tests::FakePlatform system;
     platform::LinuxRandom random;
     random.seed();
-    const platform::Platform all{system.process, system.clock,  random,        system.settings,
-                                 system.files,   system.locale, system.machine};
+    const platform::Platform all{system.process, system.clock,  random,         system.settings,
+                                 system.files,   system.locale, system.machine, system.shell};
     platform::install(&all);
 
     benchmark::Initialize(&count, arguments);

@@ -9,6 +9,7 @@
 #include "platform/linux/LinuxMachine.h"
 #include "platform/linux/LinuxProcess.h"
 #include "platform/linux/LinuxSettings.h"
+#include "platform/linux/LinuxShell.h"
 
 #include <cstdio>
 
@@ -20,7 +21,8 @@ int main(int argc, char** argv) {
     platform::LinuxFiles files;
     platform::LinuxLocale locale;
     platform::LinuxMachine machine(locale);
-    const platform::Platform all{process, clock, random, settings, files, locale, machine};
+    platform::LinuxShell shell;
+    const platform::Platform all{process, clock, random, settings, files, locale, machine, shell};
     platform::install(&all);
 
     desktop_qt::QtDesktop desktop(argc, argv);

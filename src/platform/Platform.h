@@ -9,6 +9,7 @@
 #include "platform/Process.h"
 #include "platform/Random.h"
 #include "platform/Settings.h"
+#include "platform/Shell.h"
 
 namespace platform {
 
@@ -20,6 +21,7 @@ struct Platform {
     Files& files;
     Locale& locale;
     Machine& machine;
+    Shell& shell;
 };
 
 // The installed platform. Calling it before install() is a mistake of the caller.

@@ -12,6 +12,7 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace tests {
 
@@ -192,6 +193,20 @@ struct FakeMachine : platform::Machine {
     int GetSystemDirectoryA(char* to, int size) const override { return fill(to, size, system); }
 };
 
+// Keeps what it is asked for.
+struct FakeShell : platform::Shell {
+    int answer = 42;
+    std::vector<std::string> opened, started;
+
+    int ShellExecuteA(std::uintptr_t, const char* operation, const char* file, const char*,
+                      const char*, int) override {
+        opened.push_back(std::string(operation) + " " + file);
+        return answer;
+    }
+    std::vector<std::string> calculators() const override { return {"sums", "abacus"}; }
+    void start(const std::string& path) override { started.push_back(path); }
+};
+
 struct FakePlatform {
     FakeProcess process;
     FakeClock clock;
@@ -200,7 +215,8 @@ struct FakePlatform {
     FakeFiles files;
     FakeLocale locale;
     FakeMachine machine;
-    platform::Platform all{process, clock, random, settings, files, locale, machine};
+    FakeShell shell;
+    platform::Platform all{process, clock, random, settings, files, locale, machine, shell};
 
     FakePlatform() { platform::install(&all); }
     ~FakePlatform() { platform::install(nullptr); }
