@@ -104,17 +104,18 @@ void ListPage::Form_Load() {
     CenterChild(*this);
 }
 
-void ListPage::writeHeaders() {
-    grd1.TextMatrix(0, 0) = design_.corner;
+void ListPage::writeHeaders(const Step& step) {
+    step([&] { grd1.TextMatrix(0, 0) = design_.corner; });
     for (int c = 1; c <= design_.lastColumn; ++c)
-        grd1.TextMatrix(0, c) = "# " + std::to_string(c);
+        step([&] { grd1.TextMatrix(0, c) = "# " + std::to_string(c); });
     for (int r = 1; r <= kRows; ++r)
-        grd1.TextMatrix(r, 0) = std::to_string(r) + ".";
+        step([&] { grd1.TextMatrix(r, 0) = std::to_string(r) + "."; });
 }
 
-void ListPage::halveColumns() {
+void ListPage::halveColumns(const Step& step) {
     for (int c = 1; c <= design_.lastColumn; ++c)
-        grd1.setColWidth(c, static_cast<int>(std::nearbyint(grd1.ColWidth(c) / 2.0)));
+        step(
+            [&] { grd1.setColWidth(c, static_cast<int>(std::nearbyint(grd1.ColWidth(c) / 2.0))); });
 }
 
 void ListPage::getRows(const char* label) {

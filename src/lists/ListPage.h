@@ -11,6 +11,7 @@
 #include "frame/Shared.h"
 #include "toolkit/Form.h"
 
+#include <functional>
 #include <initializer_list>
 #include <vector>
 
@@ -86,8 +87,10 @@ protected:
     bool fileRow(const char* label, int atLeast, void (*rowsAreFull)(), void (*tooFew)());
     void removeRow(const char* label, int row);
 
-    void writeHeaders();
-    void halveColumns();
+    // Each cell and each column is a step of its own of the routine that calls.
+    using Step = std::function<void(const std::function<void()>&)>;
+    void writeHeaders(const Step& step);
+    void halveColumns(const Step& step);
     std::vector<int> pickedNumbers() const; // in rising order
     void setTabOrder(std::initializer_list<toolkit::Control*> controls);
 

@@ -69,8 +69,8 @@ void frmCustomize6::SetFormProperties() {
     trapped("frmCustomize6.SetFormProperties", [&](auto step) {
         step([&] { grd1.Rows = kRows + 1; });
         step([&] { grd1.Cols = kNumbers + 1; });
-        step([&] { writeHeaders(); });
-        step([&] { halveColumns(); });
+        writeHeaders(step);
+        halveColumns(step);
         step([&] { GetCustomizeUDTs(); });
     });
 }

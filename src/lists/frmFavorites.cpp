@@ -47,9 +47,9 @@ void frmFavorites::SetFormProperties() {
     trapped("frmFavorites.SetFormProperties", [&](auto step) {
         step([&] { grd1.Rows = kRows + 1; });
         step([&] { grd1.Cols = kMostNumbers + 1; });
-        step([&] { writeHeaders(); });
+        writeHeaders(step);
         step([&] { grd1.Height = grd1.RowHeight(1) * (kRows + 1) + 100; });
-        step([&] { halveColumns(); });
+        halveColumns(step);
         step([&] { grd1.Width = grd1.ColWidth(1) * kMostNumbers; });
         step([&] { grd1.Width = grd1.Width + grd1.ColWidth(0) + 150; });
         step([&] { GetFavoriteUDTs(); });
