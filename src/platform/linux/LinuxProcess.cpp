@@ -16,18 +16,22 @@ namespace {
 
 int requestPipe[2] = {-1, -1}; // a signal handler writes to it, the event loop reads from it
 
-std::string lockPath() {
+int openLock(const std::string& path) {
+    return open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+}
+
+int openLock() {
     const char* const runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime && *runtime)
-        return std::string(runtime) + "/quorvanta.lock";
-    return "/tmp/quorvanta-" + std::to_string(getuid()) + ".lock";
+    const int file = runtime && *runtime ? openLock(std::string(runtime) + "/quorvanta.lock") : -1;
+    // The directory may be gone, or another user's after su.
+    return file >= 0 ? file : openLock("/tmp/quorvanta-" + std::to_string(getuid()) + ".lock");
 }
 
 } // namespace
 
 LinuxProcess::LinuxProcess() {
     // The descriptor stays open for the life of the process: it holds the lock.
-    const int file = open(lockPath().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+    const int file = openLock();
     another_ = file >= 0 && flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
