@@ -35,6 +35,7 @@ constexpr const char* kSystemKey = "system";
 } // namespace
 
 frmMain::frmMain() : FormOf(Kind::MDIChild, "frmMain", 6825, 5265) {
+    MinButton = true;
     buildBoard();
     buildSystems();
     cmdCancel.TabIndex = kSystemCount;

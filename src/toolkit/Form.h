@@ -37,6 +37,7 @@ public:
     const double clientWidth, clientHeight;
     bool KeyPreview = false; // the form sees a key before the control with the focus gets it
     bool Borderless = false; // no border and no title
+    bool MinButton = false;  // a page can be minimized in its frame
     Colour BackColor = kThemeColour;
 
     Control* ActiveControl = nullptr;

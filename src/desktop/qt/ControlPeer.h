@@ -50,4 +50,11 @@ std::unique_ptr<ControlPeer> makeToolbar(toolkit::Toolbar& bar, QWidget* parent)
 std::unique_ptr<ControlPeer> makeMSFlexGrid(toolkit::MSFlexGrid& grid, QWidget* parent);
 std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer);
 
+// No timer fires while this lives: Qt runs events of its own while it shows a window.
+struct TimersHeld {
+    TimersHeld();
+    ~TimersHeld();
+    TimersHeld(const TimersHeld&) = delete;
+};
+
 } // namespace desktop_qt

@@ -47,7 +47,8 @@ public:
         ControlPeer::showLook();
         QPalette palette;
         if (label_.ForeColor != toolkit::kThemeColour)
-            palette.setColor(QPalette::WindowText, colour(label_.ForeColor));
+            for (const auto group : {QPalette::Active, QPalette::Inactive})
+                palette.setColor(group, QPalette::WindowText, colour(label_.ForeColor));
         if (label_.BackColor != toolkit::kThemeColour) {
             palette.setColor(QPalette::Window, colour(label_.BackColor));
             palette.setColor(QPalette::Disabled, QPalette::WindowText, kGreyedText);

@@ -93,6 +93,11 @@ protected:
             grid_->moveToRow(pressed_);
     }
     void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+    void focusInEvent(QFocusEvent* event) override {
+        QTableView::focusInEvent(event);
+        if (grid_ && grid_->row() < grid_->FixedRows)
+            selectionModel()->clearCurrentIndex(); // which the view has made of its first cell
+    }
     void mouseReleaseEvent(QMouseEvent* event) override {
         const int row = std::exchange(pressed_, 0);
         if (grid_ && event->button() == Qt::LeftButton && row > 0 && rowAt(event) == row)
@@ -129,7 +134,9 @@ protected:
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return grid_->clickRow(row);
+            if (!event->isAutoRepeat()) // one press picks one row
+                grid_->clickRow(row);
+            return;
         default:
             event->ignore();
         }

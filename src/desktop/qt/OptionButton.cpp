@@ -7,6 +7,15 @@ namespace desktop_qt {
 
 namespace {
 
+// Its whole area takes the click, not only the mark and the text.
+class RadioButton final : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+};
+
 class OptionButtonPeer final : public ControlPeer {
 public:
     OptionButtonPeer(toolkit::OptionButton& option, QRadioButton* widget)
@@ -24,11 +33,19 @@ public:
             return ControlPeer::changed(which);
         const QSignalBlocker quiet(widget_);
         widget_->setChecked(option_.Value);
+        if (option_.Value && dynamic_cast<toolkit::OptionButton*>(focusedSibling()))
+            widget_->setFocus(Qt::OtherFocusReason); // the arrow keys go on from the selected one
     }
 
     void showCaption() override { widget_->setText(text(option_.Caption)); }
 
 private:
+    // The control of the same group that the keyboard is at.
+    toolkit::Control* focusedSibling() const {
+        toolkit::Control* const focused = option_.form().ActiveControl;
+        return focused && &focused->parent() == &option_.parent() ? focused : nullptr;
+    }
+
     toolkit::OptionButton& option_;
     QRadioButton* widget_;
 };
@@ -36,7 +53,7 @@ private:
 } // namespace
 
 std::unique_ptr<ControlPeer> makeOptionButton(toolkit::OptionButton& option, QWidget* parent) {
-    return std::make_unique<OptionButtonPeer>(option, new QRadioButton(parent));
+    return std::make_unique<OptionButtonPeer>(option, new RadioButton(parent));
 }
 
 } // namespace desktop_qt

@@ -10,6 +10,7 @@
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -32,7 +33,7 @@ namespace {
 constexpr int kExposeTime = 250; // milliseconds that a window gets to come up
 
 // Lets the window come up on the screen. Nothing of the program runs meanwhile: what the user does
-// stays in the queue, and the splash's timer, the only one by then, is not as short.
+// stays in the queue, and timers are held.
 void waitUntilShown(QWidget& window) {
     QTimer wake;
     wake.setSingleShot(true);
@@ -175,13 +176,16 @@ void QtDesktop::show(Form& form, bool modal) {
     const QPointer<QWidget> window = peer->window();
     if (modal)
         window->setWindowModality(Qt::ApplicationModal);
-    peer->show();
+    {
+        const TimersHeld untilShown;
+        peer->show();
+        if (!modal && form.kind == Form::Kind::TopLevel)
+            waitUntilShown(*window);
+    }
     if (modal) {
         QEventLoop loop;
         connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
-    } else if (form.kind == Form::Kind::TopLevel) {
-        waitUntilShown(*window);
     }
 }
 
@@ -265,7 +269,9 @@ bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
 }
 
 Form* QtDesktop::formWithKeys(const QObject* window) {
-    if (QApplication::activePopupWidget())
+    // Keys belong to an open menu, to the menu bar, and to a window that they move.
+    if (QApplication::activePopupWidget() || QWidget::mouseGrabber() ||
+        qobject_cast<QMenuBar*>(QApplication::focusWidget()))
         return nullptr;
     if (const Control* const focused = controlOf(QApplication::focusWidget()))
         return &focused->form();

@@ -8,6 +8,7 @@ namespace desktop_qt {
 namespace {
 
 constexpr QSize kImageSize(32, 32);
+constexpr QSize kButtonSize(39, 38);
 
 class ToolbarPeer final : public ControlPeer {
 public:
@@ -25,6 +26,7 @@ public:
             QAction* const action = widget->addAction(picture(bar.Images->ListImages.at(image)),
                                                       text(button.ToolTipText));
             action->setObjectName(text(button.Key));
+            widget->widgetForAction(action)->setFixedSize(kButtonSize);
             QObject::connect(action, &QAction::triggered, widget,
                              [&bar, button] { bar.clickButton(button); });
         }

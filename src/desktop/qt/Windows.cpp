@@ -4,7 +4,9 @@
 #include "desktop/qt/Menu.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -49,6 +51,11 @@ void applyTabOrder(Form& form) {
     QWidget* before = nullptr;
     for (const toolkit::Control* control : tabOrder(form))
         QWidget::setTabOrder(std::exchange(before, widgetOf(*control)), widgetOf(*control));
+}
+
+// Top-level windows stand on the primary screen, which need not be the leftmost.
+QPoint screenOrigin() {
+    return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
 
 // Of a group of options Tab visits the selected one.
@@ -132,7 +139,9 @@ public:
     }
 
     void show() override {
-        page_->show();
+        if (!form_.ActiveControl)
+            focusForm(form_); // or the page would come up with the first of a group of options
+        page_->isMinimized() ? page_->showNormal() : page_->show();
         area().setActiveSubWindow(page_);
         focusForm(form_);
     }
@@ -180,7 +189,8 @@ void FormPeer::changed(Prop which) {
         return window_->setWindowTitle(text(form_.Caption));
     case Prop::Left:
     case Prop::Top:
-        return window_->move(pixels(form_.Left), pixels(form_.Top));
+        return window_->move(QPoint(pixels(form_.Left), pixels(form_.Top)) +
+                             (window_->isWindow() ? screenOrigin() : QPoint()));
     default:
         return;
     }
@@ -254,8 +264,9 @@ void FrameWindow::takeGeometry() {
     Form* const form = formOf(this);
     if (!form || !isVisible())
         return;
-    form->Left.assume(twips(frameGeometry().x()));
-    form->Top.assume(twips(frameGeometry().y()));
+    const QPoint place = frameGeometry().topLeft() - screenOrigin();
+    form->Left.assume(twips(place.x()));
+    form->Top.assume(twips(place.y()));
     form->Width.assume(twips(frameGeometry().width()));
     form->Height.assume(twips(frameGeometry().height()));
 }
@@ -272,8 +283,10 @@ std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
     page->setWidget(makeContent(form, page));
     page->setMenus(makeMenus(form, page));
     page->setAttribute(Qt::WA_DeleteOnClose, false);
-    frame.area()->addSubWindow(page, Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    flags.setFlag(Qt::WindowMinimizeButtonHint, form.MinButton);
+    frame.area()->addSubWindow(page, flags);
     page->setFixedSize(page->sizeHint());
     form.setBorders(twips(page->width()) - form.clientWidth,
                     twips(page->height()) - form.clientHeight);
