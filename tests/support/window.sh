@@ -3,7 +3,7 @@
 
 fail() {
     echo "FAILED: $*" >&2
-    tail -n 5 "$place/DebugLog.TXT" >&2
+    find "$place" -name DebugLog.TXT -exec tail -n 5 {} + >&2
     exit 1
 }
 

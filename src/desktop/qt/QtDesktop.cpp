@@ -119,7 +119,7 @@ QApplication& QtDesktop::application() {
     if (application_)
         return *application_;
     QApplication::setApplicationName(QStringLiteral("quorvanta"));
-    QApplication::setDesktopFileName(QStringLiteral("quorvanta"));
+    QApplication::setDesktopFileName(QStringLiteral("example.zephyrwick.quorvanta"));
     application_ = std::make_unique<QApplication>(argc_, argv_);
     QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
     application_->setQuitOnLastWindowClosed(false);    // the list of loaded forms decides
