@@ -68,13 +68,15 @@ int main(int count, char** arguments) {
     tests::FakePlatform system;
     platform::LinuxRandom random;
     random.seed();
-    const platform::Platform all{system.process, system.clock,  random,         system.settings,
-                                 system.files,   system.locale, system.machine, system.shell};
+    const platform::Platform all{system.process,  system.clock, random,
+                                 system.settings, system.files, system.locale,
+                                 system.machine,  system.shell, system.help};
     platform::install(&all);
 
+    quorvanta::frmMain::the().Load();
     benchmark::Initialize(&count, arguments);
     Reporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    quorvanta::frmMain::dropInstance();
+    toolkit::Form::dropAll();
     return reporter.slowest >= kPromised ? 0 : 1;
 }

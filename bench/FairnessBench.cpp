@@ -16,10 +16,12 @@ int main(int count, char** arguments) {
     tests::FakePlatform system;
     platform::LinuxRandom random;
     random.seed();
-    const platform::Platform all{system.process, system.clock,  random,         system.settings,
-                                 system.files,   system.locale, system.machine, system.shell};
+    const platform::Platform all{system.process,  system.clock, random,
+                                 system.settings, system.files, system.locale,
+                                 system.machine,  system.shell, system.help};
     platform::install(&all);
 
+    quorvanta::frmMain::the().Load();
     auto& board = quorvanta::frmMain::the().lbl1;
     tests::PlayTally tally(quorvanta::kNumbers);
     std::vector<int> numbers;
@@ -36,7 +38,7 @@ int main(int count, char** arguments) {
             }
         tally.add(numbers);
     }
-    quorvanta::frmMain::dropInstance();
+    toolkit::Form::dropAll();
 
     double worst = 0;
     for (int n = 1; n <= quorvanta::kNumbers; ++n)

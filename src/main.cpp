@@ -22,11 +22,11 @@ int main(int argc, char** argv) {
     platform::LinuxLocale locale;
     platform::LinuxMachine machine(locale);
     platform::LinuxShell shell;
-    const platform::Platform all{process, clock, random, settings, files, locale, machine, shell};
-    platform::install(&all);
-
     desktop_qt::QtDesktop desktop(argc, argv);
     toolkit::install(&desktop);
+    const platform::Platform all{process, clock,   random, settings, files,
+                                 locale,  machine, shell,  desktop};
+    platform::install(&all);
     try {
         toolkit::App.Path = files.programDirectory();
     } catch (const platform::RuntimeError& error) {

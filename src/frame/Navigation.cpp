@@ -1,8 +1,12 @@
 #include "frame/Navigation.h"
 
+#include "common/Trap.h"
+#include "common/cInternet.h"
+#include "frame/frmAbout.h"
 #include "lists/frmCustomize6.h"
 #include "lists/frmFavorites.h"
 #include "numbers/frmMain.h"
+#include "platform/Platform.h"
 
 namespace quorvanta {
 
@@ -18,13 +22,24 @@ void mnuFavorites_Click() {
     frmFavorites::the().Show();
 }
 
-// These pages have not joined the program yet.
+// This page has not joined the program yet.
 void mnuBankroll_Click() {}
-void mnuAbout_Click() {}
-void mnuWebsite_Click(toolkit::Form& /*frm*/) {}
+
+void mnuAbout_Click() {
+    frmAbout::the().Show(true);
+}
+
+void mnuWebsite_Click(toolkit::Form& frm) {
+    OpenProductWebsite(frm);
+}
 
 void mnuContents_Click(toolkit::Form& frm) {
-    toolkit::desktop().help(frm, toolkit::App.HelpFile);
+    failuresOff([&](auto step) {
+        step([&] {
+            platform::current().help.WinHelpA(frm.hWnd, toolkit::App.HelpFile.c_str(),
+                                              platform::HELP_TAB, 0);
+        });
+    });
 }
 
 } // namespace quorvanta

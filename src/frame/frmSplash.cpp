@@ -1,6 +1,7 @@
 #include "frame/frmSplash.h"
 
 #include "common/FormRoutines.h"
+#include "common/MakerSite.h"
 #include "frame/MDIForm1.h"
 #include "frame/Shared.h"
 
@@ -39,8 +40,8 @@ frmSplash::frmSplash() : FormOf(Kind::TopLevel, "frmSplash", 6600, 3225) {
     lblVersion.ForeColor = toolkit::kBlack;
     int top = 2130;
     int i = 0;
-    for (const char* line : {"The number lottery 6 from 49: plays, rows and bankroll",
-                             "Copyright \u00A9 2005 - 2026 Zephyrwick", "www.zephyrwick.example"}) {
+    for (const char* line :
+         {"The number lottery 6 from 49: plays, rows and bankroll", kCopyright, kSite}) {
         auto& label = lblMaker.load(i++, *this, line, toolkit::Place{105.0, 1.0 * top, 6255, 255});
         label.design = {.name = "Arial", .size = 9};
         label.ForeColor = toolkit::kBlack;

@@ -4,6 +4,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Files.h"
+#include "platform/Help.h"
 #include "platform/Locale.h"
 #include "platform/Machine.h"
 #include "platform/Process.h"
@@ -22,6 +23,7 @@ struct Platform {
     Locale& locale;
     Machine& machine;
     Shell& shell;
+    Help& help;
 };
 
 // The installed platform. Calling it before install() is a mistake of the caller.

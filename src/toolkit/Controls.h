@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/ControlArray.h"
+#include "toolkit/Drawing.h"
 
 namespace toolkit {
 
@@ -51,12 +52,30 @@ public:
           Container(parent.ownerForm()) {}
 };
 
-// Shows a picture, named by the desktop's resource.
-class Image : public Control {
+// What shows a picture. A named drawing fills the control, a bitmap is enlarged without blurring.
+class PictureControl : public Control {
 public:
     using Control::Control;
 
-    Property<std::string> Picture{*this, Prop::Picture};
+    Property<Drawing> Picture{*this, Prop::Picture};
+};
+
+class Image : public PictureControl {
+public:
+    using PictureControl::PictureControl;
+};
+
+// A picture in a sunken border, which takes the focus. The space bar acts like a double click.
+class PictureBox : public PictureControl {
+public:
+    using PictureControl::PictureControl;
+};
+
+// A horizontal rule.
+class Line : public Control {
+public:
+    Line(Container& parent, std::string name, double x1, double x2, double y)
+        : Control(parent, std::move(name), {}, {x1, y, x2 - x1, 0}) {}
 };
 
 // How many characters a text has, as SelLength counts them.

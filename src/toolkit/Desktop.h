@@ -51,8 +51,6 @@ public:
     // The screen's size in twips.
     virtual double screenWidth() { return 0; }
     virtual double screenHeight() { return 0; }
-    // Shows the help file; a missing file is reported by the viewer.
-    virtual void help(Form& /*owner*/, const std::string& /*file*/) {}
     // Makes ready to print on the system's default printer. Raises PrinterError if there is none.
     virtual std::unique_ptr<PrinterDevice> newPrinterDevice();
     // No form is left: the event loop ends with the event that runs, unless that shows another.

@@ -10,6 +10,8 @@
 #include "toolkit/Desktop.h"
 #include "toolkit/MSFlexGrid.h"
 
+#include <cstdint>
+
 namespace toolkit {
 
 // Why a form is asked whether it may be unloaded.
@@ -41,6 +43,8 @@ public:
     Colour BackColor = kThemeColour;
 
     Control* ActiveControl = nullptr;
+    // What the desktop knows the form's window by, from loading to unloading; 0 without a window.
+    std::uintptr_t hWnd = 0;
     const std::vector<Menu*>& menuBar() const { return menuBar_; }
     int nextTabIndex() { return tabIndices_++; }
     void addMenu(Menu& menu) { menuBar_.push_back(&menu); }
@@ -101,7 +105,6 @@ public:
     }
     // The form if it is loaded, else nullptr.
     static F* ifLoaded() { return instance_ && instance_->loaded() ? instance_.get() : nullptr; }
-    static void dropInstance() { instance_.reset(); }
 
 protected:
     void forget() override { instance_.reset(); }

@@ -89,7 +89,7 @@ TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
     EXPECT_EQ(frmMain::the().Top, 0);
     EXPECT_FALSE(frmMain::the().mnuMainForm.Enabled);
     press("help");
-    EXPECT_EQ(desk.helps.size(), 1U);
+    EXPECT_EQ(os.help.files, Names{"/app/quorvantalite.hlp"});
 }
 
 TEST_F(FrameTest, EveryWayOutAsksOnceSavesOnceAndEndsUnlessTheAnswerIsNo) {

@@ -18,6 +18,7 @@ inline bool takesFocus(const toolkit::Control& control) {
     const bool rightKind = dynamic_cast<const toolkit::CommandButton*>(&control) ||
                            dynamic_cast<const toolkit::OptionButton*>(&control) ||
                            dynamic_cast<const toolkit::TextBox*>(&control) ||
+                           dynamic_cast<const toolkit::PictureBox*>(&control) ||
                            dynamic_cast<const toolkit::MSFlexGrid*>(&control);
     return rightKind && control.Enabled && control.Visible;
 }
@@ -40,7 +41,6 @@ struct FakeDesktop : toolkit::Desktop {
     std::deque<int> answers;                // to the boxes; their default button once it is empty
     std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
-    std::vector<std::string> helps;                         // the help files shown
     std::vector<std::vector<toolkit::PrintedText>> printed; // page by page
     // Asked before each operation of the printer, by its name, and may throw.
     std::function<void(const std::string& operation)> printerFault = [](const auto&) {};
@@ -83,7 +83,6 @@ struct FakeDesktop : toolkit::Desktop {
     }
     double screenWidth() override { return 1024 * 15; }
     double screenHeight() override { return 768 * 15; }
-    void help(toolkit::Form&, const std::string& file) override { helps.push_back(file); }
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override {
         printerFault("newPrinterDevice");
         return std::make_unique<PrinterDevice>(*this);

@@ -196,15 +196,28 @@ struct FakeMachine : platform::Machine {
 // Keeps what it is asked for.
 struct FakeShell : platform::Shell {
     int answer = 42;
+    bool broken = false; // addresses can't even be handed over
     std::vector<std::string> opened, started;
 
     int ShellExecuteA(std::uintptr_t, const char* operation, const char* file, const char*,
                       const char*, int) override {
+        if (broken)
+            throw platform::RuntimeError(platform::FileNotFound);
         opened.push_back(std::string(operation) + " " + file);
         return answer;
     }
     std::vector<std::string> calculators() const override { return {"sums", "abacus"}; }
     void start(const std::string& path) override { started.push_back(path); }
+};
+
+struct FakeHelp : platform::Help {
+    std::vector<std::string> files; // those shown
+
+    bool WinHelpA(std::uintptr_t, const char* file, unsigned command, std::uintptr_t) override {
+        if (command == platform::HELP_TAB)
+            files.emplace_back(file);
+        return true;
+    }
 };
 
 struct FakePlatform {
@@ -216,7 +229,8 @@ struct FakePlatform {
     FakeLocale locale;
     FakeMachine machine;
     FakeShell shell;
-    platform::Platform all{process, clock, random, settings, files, locale, machine, shell};
+    FakeHelp help;
+    platform::Platform all{process, clock, random, settings, files, locale, machine, shell, help};
 
     FakePlatform() { platform::install(&all); }
     ~FakePlatform() { platform::install(nullptr); }

@@ -41,8 +41,8 @@ struct RealFilesPlatform {
     FakePlatform fake;
     RealFiles files;
     platform::LinuxLocale locale;
-    platform::Platform all{fake.process, fake.clock, fake.random,  fake.settings,
-                           files,        locale,     fake.machine, fake.shell};
+    platform::Platform all{fake.process, fake.clock,   fake.random, fake.settings, files,
+                           locale,       fake.machine, fake.shell,  fake.help};
 
     explicit RealFilesPlatform(const std::string& localeName = "en_US")
         : locale(platform::LocaleCategories::of(localeName)) {

@@ -94,4 +94,24 @@ TEST_F(HelpViewerTest, FindGoesRoundThePageUntilEscapeEndsIt) {
     EXPECT_FALSE(viewer()->isVisible());
 }
 
+TEST_F(HelpViewerTest, EveryLinkOfTheGuideLeadsToAPlaceInIt) {
+    path = GUIDE;
+    showFile();
+    QSet<QString> places;
+    QStringList links;
+    for (QTextBlock block = page().document()->begin(); block.isValid(); block = block.next()) {
+        for (const QString& name : block.charFormat().anchorNames())
+            places << '#' + name;
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            for (const QString& name : it.fragment().charFormat().anchorNames())
+                places << '#' + name;
+            if (const QString link = it.fragment().charFormat().anchorHref(); !link.isEmpty())
+                links << link;
+        }
+    }
+    EXPECT_GT(links.size(), 10);
+    for (const QString& link : links)
+        EXPECT_TRUE(places.contains(link)) << link.toStdString();
+}
+
 } // namespace

@@ -1,9 +1,12 @@
 // The program's pages as real windows on a real X server: the mouse and the keyboard are those of
 // xdotool.
+#include "common/MakerSite.h"
+#include "common/frmURL.h"
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/QtDesktop.h"
 #include "desktop/qt/Windows.h"
 #include "frame/MDIForm1.h"
+#include "frame/frmAbout.h"
 #include "lists/frmCustomize6.h"
 #include "lists/frmFavorites.h"
 #include "numbers/frmMain.h"
@@ -86,6 +89,24 @@ std::string answer(Action first, const char* button) {
     first();
     EXPECT_TRUE(until([&] { return !text.empty() && !box(); }));
     return text;
+}
+
+// Does `first`, which opens a modal form, and once it is in front `then`, which closes it.
+template <class First, class Then>
+void inModal(First first, Then then) {
+    bool done = false;
+    QTimer watch; // the form runs an event loop of its own inside `first`
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        const QWidget* const form = QApplication::activeModalWidget();
+        if (!form || !form->isActiveWindow())
+            return;
+        watch.stop();
+        then();
+        done = true;
+    });
+    watch.start(20);
+    first();
+    EXPECT_TRUE(until([&] { return done && !QApplication::activeModalWidget(); }));
 }
 
 bool painted(const toolkit::Label& label, QColor colour) {
@@ -241,6 +262,71 @@ TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {
     EXPECT_NE(frmMain::ifLoaded(), nullptr);
     EXPECT_FALSE(os.process.ended);
     EXPECT_FALSE(os.files.exists("/app/Quorvanta.txt"));
+}
+
+TEST_F(PagesTest, TheAboutBoxStandsInTheMiddleAndRunsItsFramesUntilADoubleClick) {
+    const auto look = [&](auto stop) {
+        auto& about = frmAbout::the();
+        QWidget& picture = widget(about.pic1);
+        const QPoint off =
+            picture.window()->frameGeometry().center() - picture.screen()->geometry().center();
+        EXPECT_LE(off.manhattanLength(), 2);
+        const auto shows = [&](int frame) {
+            return about.pic1.Picture.get() == about.imgLogo(frame).Picture.get();
+        };
+        EXPECT_TRUE(until([&] { return shows(0); }));
+        QElapsedTimer clock;
+        clock.start();
+        EXPECT_TRUE(until([&] { return shows(15); }) && until([&] { return shows(0); }));
+        EXPECT_NEAR(static_cast<double>(clock.elapsed()), 2250, 112);
+        stop(picture);
+        EXPECT_TRUE(until([&] { return os.shell.opened == std::vector{"open " + kHomePage}; }));
+        os.shell.opened.clear();
+        const toolkit::Bitmap& bitmap = *about.pic1.Picture.get().bitmap();
+        QTest::qWait(200);
+        EXPECT_EQ(about.pic1.Picture.get().bitmap().get(), &bitmap);
+        const QImage image = picture.grab(picture.contentsRect()).toImage();
+        for (int i = 0; i < 32 * 32; ++i)
+            ASSERT_EQ(image.pixelColor(i % 32, i / 32),
+                      desktop_qt::colour(bitmap.pixels[static_cast<std::size_t>(i)]));
+        key("alt+o");
+    };
+    inModal(
+        [] {
+            keys({"alt+h", "a"});
+        },
+        [&] { look([](QWidget& at) { click(at, at.rect().center(), 2); }); });
+    inModal([] { keys({"alt+h", "a"}); }, [&] { look([](QWidget&) { key("space"); }); });
+}
+
+TEST_F(PagesTest, TheLinksOfTheWebsiteDialogCanBeCopiedButNotChangedByAKey) {
+    os.shell.answer = 31;
+    const auto copied = [] { return QGuiApplication::clipboard()->text().toStdString(); };
+    inModal(
+        [] {
+            keys({"alt+q", "Return"});
+        },
+        [&] {
+            auto& form = frmURL::the();
+            keys({"Tab", "x", "BackSpace", "Delete", "ctrl+x", "End", "space", "ctrl+v", "ctrl+c"});
+            EXPECT_TRUE(until([&] { return copied() == kProductPage; }));
+            auto& second = dynamic_cast<QLineEdit&>(widget(form.Txt2));
+            QInputMethodEvent composed;
+            composed.setCommitString("\u00E9");
+            QCoreApplication::sendEvent(&second, &composed);
+            const QPoint at = second.mapToGlobal(second.rect().center());
+            xdotool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "3"});
+            EXPECT_TRUE(until([] { return QApplication::activePopupWidget() != nullptr; }));
+            auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+            click(menu, menu.actionGeometry(menu.findChild<QAction*>("edit-copy")).center());
+            EXPECT_TRUE(until([&] { return copied() == kHomePage; }));
+            EXPECT_EQ(form.Txt1.Text.get() + form.Txt2.Text.get(), kProductPage + kHomePage);
+            EXPECT_EQ(second.text().toStdString(), kHomePage);
+            key("Escape");
+            EXPECT_NE(frmURL::ifLoaded(), nullptr);
+            key("Return");
+        });
+    EXPECT_EQ(frmURL::ifLoaded(), nullptr);
 }
 
 } // namespace

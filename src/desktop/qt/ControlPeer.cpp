@@ -90,6 +90,8 @@ void makePeers(toolkit::Container& container, QWidget* parent) {
             makeIf<toolkit::OptionButton>(*control, parent, makeOptionButton) ||
             makeIf<toolkit::Frame>(*control, parent, makeFrame) ||
             makeIf<toolkit::Image>(*control, parent, makeImage) ||
+            makeIf<toolkit::PictureBox>(*control, parent, makePictureBox) ||
+            makeIf<toolkit::Line>(*control, parent, makeLine) ||
             makeIf<toolkit::TextBox>(*control, parent, makeTextBox) ||
             makeIf<toolkit::StatusBar>(*control, parent, makeStatusBar) ||
             makeIf<toolkit::Toolbar>(*control, parent, makeToolbar) ||

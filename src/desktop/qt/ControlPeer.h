@@ -44,6 +44,8 @@ std::unique_ptr<ControlPeer> makeCommandButton(toolkit::CommandButton& button, Q
 std::unique_ptr<ControlPeer> makeOptionButton(toolkit::OptionButton& option, QWidget* parent);
 std::unique_ptr<ControlPeer> makeFrame(toolkit::Frame& frame, QWidget* parent);
 std::unique_ptr<ControlPeer> makeImage(toolkit::Image& image, QWidget* parent);
+std::unique_ptr<ControlPeer> makePictureBox(toolkit::PictureBox& box, QWidget* parent);
+std::unique_ptr<ControlPeer> makeLine(toolkit::Line& line, QWidget* parent);
 std::unique_ptr<ControlPeer> makeTextBox(toolkit::TextBox& box, QWidget* parent);
 std::unique_ptr<ControlPeer> makeStatusBar(toolkit::StatusBar& bar, QWidget* parent);
 std::unique_ptr<ControlPeer> makeToolbar(toolkit::Toolbar& bar, QWidget* parent);

@@ -24,6 +24,7 @@ namespace desktop_qt {
 
 namespace {
 
+const QColor kLinkOnDark(0x7A, 0xB8, 0xFF);
 constexpr int kLastContentsLevel = 3; // headings below this one stay out of the contents
 
 class HelpViewer : public QWidget {
@@ -99,7 +100,6 @@ void HelpViewer::buildFindBar() {
     row->addWidget(sought_, 1);
     row->addWidget(next);
     row->addWidget(findResult_, 1);
-    findBar_->hide();
     connect(sought_, &QLineEdit::returnPressed, this, [this] { find({}); });
     connect(sought_, &QLineEdit::textEdited, findResult_, &QLabel::clear);
     connect(next, &QPushButton::clicked, this, [this] { find({}); });
@@ -129,6 +129,11 @@ void HelpViewer::open(const QString& file) {
 }
 
 void HelpViewer::load() {
+    // Some dark themes leave links in the dark blue that is meant for a white page.
+    QColor link = palette().color(QPalette::Link);
+    if (qMax(link.lightness(), palette().color(QPalette::Base).lightness()) < 128)
+        link = kLinkOnDark;
+    page_->document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link.name()));
     QFile input(file_);
     readable_ = input.open(QIODevice::ReadOnly);
     if (readable_)
@@ -171,7 +176,6 @@ void HelpViewer::goTo(const QTreeWidgetItem* heading) {
 }
 
 void HelpViewer::startFind() {
-    findBar_->show();
     sought_->setFocus();
     sought_->selectAll();
 }
@@ -192,12 +196,10 @@ void HelpViewer::find(QTextDocument::FindFlags direction) {
 }
 
 void HelpViewer::leave() {
-    if (findBar_->isHidden()) {
+    if (sought_->hasFocus())
+        page_->setFocus();
+    else
         close();
-        return;
-    }
-    findBar_->hide();
-    page_->setFocus();
 }
 
 // The colours of links are taken when a page is read, so a change of the theme reads it anew.

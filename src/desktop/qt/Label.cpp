@@ -37,7 +37,7 @@ public:
     }
 
     void showCaption() override {
-        widget_->setText(text(label_.Caption));
+        widget_->setText(text(label_.Caption).replace(QLatin1String("\r\n"), QLatin1String("\n")));
         if (label_.AutoSize)
             widget_->resize(widget_->size().expandedTo(widget_->sizeHint()));
         speak();

@@ -93,20 +93,31 @@ toolkit::CommandButton* buttonNamed(Form& form, const QKeyEvent& key) {
 
 // Esc presses the Cancel button, Alt and a letter the button with that letter. Enter presses the
 // button with the focus, else the Default button.
-bool pressButton(const QKeyEvent& key, Form& form, Control* focused) {
-    toolkit::CommandButton* button = buttonNamed(form, key);
-    if (button) {
-        button->SetFocus();
-    } else if (key.key() == Qt::Key_Escape) {
-        button = buttonWith(form, &toolkit::CommandButton::Cancel);
-    } else if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) {
-        button = dynamic_cast<toolkit::CommandButton*>(focused);
-        if (!button && !dynamic_cast<toolkit::MSFlexGrid*>(focused))
-            button = buttonWith(form, &toolkit::CommandButton::Default);
-    }
-    if (button && !key.isAutoRepeat()) // a held Esc closes one page, not those below it
-        button->click();
-    return button != nullptr;
+toolkit::CommandButton* buttonFor(const QKeyEvent& key, Form& form, Control* focused) {
+    if (toolkit::CommandButton* const named = buttonNamed(form, key))
+        return named;
+    if (key.key() == Qt::Key_Escape)
+        return buttonWith(form, &toolkit::CommandButton::Cancel);
+    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
+        return nullptr;
+    auto* const button = dynamic_cast<toolkit::CommandButton*>(focused);
+    return button || dynamic_cast<toolkit::MSFlexGrid*>(focused)
+               ? button
+               : buttonWith(form, &toolkit::CommandButton::Default);
+}
+
+void press(toolkit::CommandButton& button, const QKeyEvent& key) {
+    if (key.modifiers() == Qt::AltModifier)
+        button.SetFocus();
+    if (!key.isAutoRepeat()) // a held Esc closes one page, not those below it
+        button.click();
+}
+
+// Keys that go about the form are not the control's to drop, and neither is copying: it changes
+// nothing.
+bool passesControl(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab ||
+           key.matches(QKeySequence::Copy);
 }
 
 } // namespace
@@ -161,6 +172,7 @@ FrameWindow* QtDesktop::frame() const {
 
 void QtDesktop::open(Form& form) {
     application();
+    form.hWnd = ++lastHandle_;
     if (form.kind == Form::Kind::MDIFrame)
         form.attach(makeFrameWindow(form));
     else if (FrameWindow* const around = frame(); around && form.kind == Form::Kind::MDIChild)
@@ -174,8 +186,12 @@ void QtDesktop::show(Form& form, bool modal) {
     if (!peer)
         return;
     const QPointer<QWidget> window = peer->window();
-    if (modal)
+    if (modal) {
         window->setWindowModality(Qt::ApplicationModal);
+        window->winId();
+        if (const FrameWindow* const below = frame())
+            window->windowHandle()->setTransientParent(below->windowHandle());
+    }
     {
         const TimersHeld untilShown;
         peer->show();
@@ -191,6 +207,7 @@ void QtDesktop::show(Form& form, bool modal) {
 
 void QtDesktop::close(Form& form) {
     form.attach(nullptr);
+    form.hWnd = 0;
 }
 
 void QtDesktop::focus(Control& control) {
@@ -232,9 +249,18 @@ double QtDesktop::screenHeight() {
     return twips(QGuiApplication::primaryScreen()->size().height());
 }
 
-void QtDesktop::help(Form& owner, const std::string& file) {
-    const auto* const peer = dynamic_cast<FormPeer*>(owner.peer());
-    showHelp(peer ? peer->window() : nullptr, text(file));
+bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned command,
+                         std::uintptr_t /*data*/) {
+    if (command != platform::HELP_TAB)
+        return false;
+    application();
+    QWidget* owner = nullptr;
+    for (int i = 0; i < toolkit::Forms.Count(); ++i)
+        if (const auto* const peer = dynamic_cast<FormPeer*>(toolkit::Forms(i).peer()))
+            if (toolkit::Forms(i).hWnd == window)
+                owner = peer->window();
+    showHelp(owner, QString::fromUtf8(file));
+    return true;
 }
 
 std::unique_ptr<toolkit::PrinterDevice> QtDesktop::newPrinterDevice() {
@@ -295,18 +321,22 @@ bool QtDesktop::previewKey(const QKeyEvent& key, Form& form) {
     form.previewKeyDown(code, shift);
     if (dropped(code))
         return true;
-    if (focused)
+    toolkit::CommandButton* const button = buttonFor(key, form, focused);
+    const bool told = focused && !button && !passesControl(key);
+    if (told)
         focused->keyDown(code, shift);
     if (dropped(code))
         return true;
     if (int ascii = keyAscii(key); ascii != 0) {
         form.previewKeyPress(ascii);
-        if (focused && form.loaded() && ascii != 0)
+        if (told && form.loaded() && ascii != 0)
             focused->keyPress(ascii);
         if (dropped(ascii))
             return true;
     }
-    return pressButton(key, form, focused);
+    if (button)
+        press(*button, key);
+    return button != nullptr;
 }
 
 } // namespace desktop_qt

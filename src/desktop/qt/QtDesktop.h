@@ -2,6 +2,7 @@
 // does into the toolkit's events.
 #pragma once
 
+#include "platform/Help.h"
 #include "toolkit/Desktop.h"
 
 #include <QObject>
@@ -17,7 +18,7 @@ namespace desktop_qt {
 
 class FrameWindow;
 
-class QtDesktop : public QObject, public toolkit::Desktop {
+class QtDesktop : public QObject, public toolkit::Desktop, public platform::Help {
 public:
     // Nothing is opened until the first form or message box needs it, so a start that is refused
     // costs little. `argc` must live as long as the desktop.
@@ -40,9 +41,11 @@ public:
     void doEvents() override;
     double screenWidth() override;
     double screenHeight() override;
-    void help(toolkit::Form& owner, const std::string& file) override;
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override;
     void endLoop() override;
+
+    bool WinHelpA(std::uintptr_t window, const char* file, unsigned command,
+                  std::uintptr_t data) override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -58,6 +61,7 @@ private:
     int& argc_;
     char** argv_;
     std::unique_ptr<QApplication> application_;
+    std::uintptr_t lastHandle_ = 0;
     std::function<void()> sessionEnds_;
 };
 

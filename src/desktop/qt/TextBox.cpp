@@ -1,10 +1,32 @@
 #include "desktop/qt/ControlPeer.h"
 
+#include <QInputMethodEvent>
 #include <QLineEdit>
 
 namespace desktop_qt {
 
 namespace {
+
+class BoxWidget final : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    // Characters that an input method or a dead key composes are typed like any others.
+    void inputMethodEvent(QInputMethodEvent* event) override {
+        QString typed;
+        for (const QChar character : event->commitString()) {
+            int ascii = character.unicode();
+            if (toolkit::Control* const box = controlOf(this))
+                box->keyPress(ascii);
+            if (ascii != 0)
+                typed += QChar(ascii);
+        }
+        QInputMethodEvent kept(event->preeditString(), event->attributes());
+        kept.setCommitString(typed);
+        QLineEdit::inputMethodEvent(&kept);
+    }
+};
 
 class TextBoxPeer final : public ControlPeer {
 public:
@@ -12,7 +34,7 @@ public:
         : ControlPeer(box, widget), box_(box), widget_(widget) {
         widget->setAlignment(box.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
                                                                         : Qt::AlignLeft);
-        widget->setText(text(box.Text));
+        showText();
         QObject::connect(widget, &QLineEdit::textEdited, &listener_,
                          [this](const QString& typed) { box_.Text.assume(typed.toStdString()); });
         QObject::connect(widget, &QLineEdit::selectionChanged, &listener_, [this] {
@@ -23,7 +45,7 @@ public:
 
     void changed(toolkit::Prop which) override {
         if (which == toolkit::Prop::Text)
-            widget_->setText(text(box_.Text));
+            showText();
         else if (which == toolkit::Prop::Selection)
             widget_->setSelection(box_.SelStart, box_.SelLength);
         else
@@ -31,6 +53,11 @@ public:
     }
 
 private:
+    void showText() {
+        widget_->setText(text(box_.Text));
+        widget_->setCursorPosition(0); // a long text shows its beginning
+    }
+
     toolkit::TextBox& box_;
     QLineEdit* widget_;
 };
@@ -38,7 +65,7 @@ private:
 } // namespace
 
 std::unique_ptr<ControlPeer> makeTextBox(toolkit::TextBox& box, QWidget* parent) {
-    return std::make_unique<TextBoxPeer>(box, new QLineEdit(parent));
+    return std::make_unique<TextBoxPeer>(box, new BoxWidget(parent));
 }
 
 } // namespace desktop_qt

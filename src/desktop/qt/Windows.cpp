@@ -21,6 +21,9 @@ namespace {
 
 constexpr const char* kForm = "toolkitForm"; // the property that holds a window's form
 
+// What the window manager puts around a window. It is known once it has shown the frame.
+QSize windowBorders(0, 0);
+
 void mark(QWidget* window, Form& form) {
     window->setObjectName(text(form.name()));
     window->setProperty(kForm, QVariant::fromValue<void*>(&form));
@@ -91,6 +94,10 @@ QWidget* makeContent(Form& form, QWidget* parent) {
         content->setAutoFillBackground(true);
     }
     makePeers(form, content);
+    for (const toolkit::Control* control : form.controls())
+        if (QWidget* const widget = widgetOf(*control))
+            if (!content->rect().intersects(widget->geometry()))
+                widget->setFocusPolicy(Qt::NoFocus); // the focus stays where it can be seen
     applyTabOrder(form);
     return content;
 }
@@ -264,6 +271,12 @@ void FrameWindow::takeGeometry() {
     Form* const form = formOf(this);
     if (!form || !isVisible())
         return;
+    const QSize borders = frameGeometry().size() - size();
+    if (windowBorders.isNull() && !borders.isNull() && !isMaximized()) {
+        // It was placed without them: its middle stays where the program has put it.
+        windowBorders = borders;
+        move(pos() - QPoint(borders.width() / 2, borders.height() / 2));
+    }
     const QPoint place = frameGeometry().topLeft() - screenOrigin();
     form->Left.assume(twips(place.x()));
     form->Top.assume(twips(place.y()));
@@ -298,6 +311,8 @@ std::unique_ptr<FormPeer> makeTopLevelWindow(Form& form) {
     mark(window, form);
     QWidget* const content = makeContent(form, window);
     window->setFixedSize(content->size());
+    if (!form.Borderless)
+        form.setBorders(twips(windowBorders.width()), twips(windowBorders.height()));
     return std::make_unique<FormPeer>(form, window);
 }
 
