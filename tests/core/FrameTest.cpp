@@ -88,6 +88,7 @@ TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
     EXPECT_EQ(frmMain::the().Left, (frame().Width - frmMain::the().Width) / 2);
     EXPECT_EQ(frmMain::the().Top, 0);
     EXPECT_FALSE(frmMain::the().mnuMainForm.Enabled);
+    toolkit::App.HelpFile = "/app/quorvantalite.hlp";
     press("help");
     EXPECT_EQ(os.help.files, Names{"/app/quorvantalite.hlp"});
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The real program and a stand-in for the desktop's opener, which prints and then fails, is killed
-# or hangs. Argument: the program file.
+# or hangs; the About box, the links to copy, and the help. Argument: the program file.
 set -uo pipefail
 place=$(mktemp -d /tmp/quorvanta-opener.XXXXXX)
 . "$(dirname "$0")/../support/window.sh"
@@ -55,5 +55,7 @@ keys alt+q Return
 await in_front '^Quor Vanta  - Website$'
 keys Return
 await in_front '^Zephyrwick - '
+keys alt+h Return
+await in_front '^Quor Vanta  - Help$'
 end_program
 echo "The opener did what it liked."

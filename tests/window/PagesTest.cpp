@@ -318,7 +318,10 @@ TEST_F(PagesTest, TheLinksOfTheWebsiteDialogCanBeCopiedButNotChangedByAKey) {
             xdotool({"mousemove", QString::number(at.x()), QString::number(at.y()), "click", "3"});
             EXPECT_TRUE(until([] { return QApplication::activePopupWidget() != nullptr; }));
             auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
-            click(menu, menu.actionGeometry(menu.findChild<QAction*>("edit-copy")).center());
+            const auto entries = menu.actions();
+            const auto copy = std::ranges::find_if(
+                entries, [](const QAction* entry) { return entry->text().startsWith("&Copy"); });
+            click(menu, menu.actionGeometry(*copy).center());
             EXPECT_TRUE(until([&] { return copied() == kHomePage; }));
             EXPECT_EQ(form.Txt1.Text.get() + form.Txt2.Text.get(), kProductPage + kHomePage);
             EXPECT_EQ(second.text().toStdString(), kHomePage);

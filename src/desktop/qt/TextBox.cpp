@@ -23,7 +23,8 @@ protected:
                 typed += QChar(ascii);
         }
         QInputMethodEvent kept(event->preeditString(), event->attributes());
-        kept.setCommitString(typed);
+        if (!typed.isEmpty())
+            kept.setCommitString(typed, event->replacementStart(), event->replacementLength());
         QLineEdit::inputMethodEvent(&kept);
     }
 };

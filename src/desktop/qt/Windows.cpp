@@ -96,7 +96,7 @@ QWidget* makeContent(Form& form, QWidget* parent) {
     makePeers(form, content);
     for (const toolkit::Control* control : form.controls())
         if (QWidget* const widget = widgetOf(*control))
-            if (!content->rect().intersects(widget->geometry()))
+            if (!content->rect().contains(widget->pos()))
                 widget->setFocusPolicy(Qt::NoFocus); // the focus stays where it can be seen
     applyTabOrder(form);
     return content;
