@@ -131,7 +131,7 @@ void HelpViewer::open(const QString& file) {
 void HelpViewer::load() {
     // Some dark themes leave links in the dark blue that is meant for a white page.
     QColor link = palette().color(QPalette::Link);
-    if (qMax(link.lightness(), palette().color(QPalette::Base).lightness()) < 128)
+    if (qMax(link.lightness(), palette().color(QPalette::Base).lightness()) < 144)
         link = kLinkOnDark;
     page_->document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link.name()));
     QFile input(file_);
