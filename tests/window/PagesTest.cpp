@@ -40,16 +40,14 @@ void xdotool(const QStringList& arguments) {
     QTest::qWait(30); // the server hands the events over
 }
 
-QStringList clickAt(const QWidget& at, QPoint point, int times = 1) {
+void click(const QWidget& at, QPoint point, int times = 1, int button = 1) {
     const QPoint where = at.mapToGlobal(point);
-    return QStringLiteral("mousemove %1 %2 click --repeat %3 --delay 60 1")
-        .arg(where.x())
-        .arg(where.y())
-        .arg(times)
-        .split(' ');
-}
-void click(const QWidget& at, QPoint point, int times = 1) {
-    xdotool(clickAt(at, point, times));
+    xdotool(QStringLiteral("mousemove %1 %2 click --repeat %3 --delay 60 %4")
+                .arg(where.x())
+                .arg(where.y())
+                .arg(times)
+                .arg(button)
+                .split(' '));
 }
 void click(const toolkit::Control& control) {
     click(widget(control), widget(control).rect().center());
@@ -66,39 +64,14 @@ void keys(std::initializer_list<const char*> names) {
         key(name);
 }
 
-QMessageBox* box() {
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-}
-
-// Does `first`, which opens a message box, and answers the box by a click on `button`.
-template <class Action>
-std::string answer(Action first, const char* button) {
-    std::string text;
-    QTimer watch; // the box runs an event loop of its own inside `first`
-    QObject::connect(&watch, &QTimer::timeout, [&] {
-        if (!box() || !box()->isActiveWindow())
-            return;
-        watch.stop();
-        text = box()->text().toStdString();
-        const auto buttons = box()->buttons();
-        const QAbstractButton& chosen = **std::find_if(
-            buttons.begin(), buttons.end(), [&](auto* it) { return it->text() == button; });
-        QProcess::startDetached("xdotool", clickAt(chosen, chosen.rect().center()));
-    });
-    watch.start(20);
-    first();
-    EXPECT_TRUE(until([&] { return !text.empty() && !box(); }));
-    return text;
-}
-
-// Does `first`, which opens a modal form, and once it is in front `then`, which closes it.
+// Does `first`, which opens a modal window, and once it is in front `then`, which closes it.
 template <class First, class Then>
 void inModal(First first, Then then) {
     bool done = false;
-    QTimer watch; // the form runs an event loop of its own inside `first`
+    QTimer watch; // the window runs an event loop of its own inside `first`
     QObject::connect(&watch, &QTimer::timeout, [&] {
-        const QWidget* const form = QApplication::activeModalWidget();
-        if (!form || !form->isActiveWindow())
+        const QWidget* const window = QApplication::activeModalWidget();
+        if (!window || !window->isActiveWindow())
             return;
         watch.stop();
         then();
@@ -107,6 +80,21 @@ void inModal(First first, Then then) {
     watch.start(20);
     first();
     EXPECT_TRUE(until([&] { return done && !QApplication::activeModalWidget(); }));
+}
+
+// Does `first`, which opens a message box, and answers the box by a click on `button`.
+template <class Action>
+std::string answer(Action first, const char* button) {
+    std::string text;
+    inModal(first, [&] {
+        const auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+        text = box.text().toStdString();
+        const auto buttons = box.buttons();
+        const QAbstractButton& chosen =
+            **std::ranges::find(buttons, button, &QAbstractButton::text);
+        click(chosen, chosen.rect().center());
+    });
+    return text;
 }
 
 bool painted(const toolkit::Label& label, QColor colour) {
