@@ -27,15 +27,13 @@ std::string decimalSeparator() {
     return separator.empty() ? "." : separator;
 }
 
-Decimal decimalOf(double value) {
-    // Above this the fifteenth digit would round up to a text that no double can hold.
-    constexpr double kLargest = 1.79769313486231e308;
+// `toText` writes a number's size in the scientific form.
+template <class ToText>
+Decimal decimalOf(double value, ToText toText) {
     if (!std::isfinite(value))
         throw platform::RuntimeError(platform::Overflow);
     char text[32];
-    const auto end = std::to_chars(text, text + sizeof text, std::min(std::fabs(value), kLargest),
-                                   std::chars_format::scientific, kDigits - 1)
-                         .ptr;
+    char* const end = toText(std::fabs(value), text, text + sizeof text).ptr;
     Decimal result;
     result.negative = value < 0;
     char* const letter = std::find(text, end, 'e');
@@ -44,6 +42,22 @@ Decimal decimalOf(double value) {
     std::from_chars(letter[1] == '+' ? letter + 2 : letter + 1, end, result.point);
     ++result.point;
     return result;
+}
+
+Decimal fifteenDigits(double value) {
+    // Above this the fifteenth digit would round up to a text that no double can hold.
+    static constexpr double kLargest = 1.79769313486231e308;
+    return decimalOf(value, [](double size, char* to, char* end) {
+        return std::to_chars(to, end, std::min(size, kLargest), std::chars_format::scientific,
+                             kDigits - 1);
+    });
+}
+
+// As few digits as read back as the number: those that were typed, up to 15 of them.
+Decimal shortest(double value) {
+    return decimalOf(value, [](double size, char* to, char* end) {
+        return std::to_chars(to, end, size, std::chars_format::scientific);
+    });
 }
 
 // The digits with `decimals` of them behind the separator, zeros where the number has none.
@@ -242,7 +256,7 @@ private:
 } // namespace
 
 std::string CStr(double value) {
-    const Decimal number = decimalOf(value);
+    const Decimal number = fifteenDigits(value);
     if (number.digits.empty())
         return "0";
     const int decimals = std::max(static_cast<int>(number.digits.size()) - number.point, 0);
@@ -252,13 +266,21 @@ std::string CStr(double value) {
 }
 
 std::string FormatMoney(double value) {
-    Decimal number = decimalOf(value);
+    Decimal number = shortest(value);
     round(number, 2);
     return fixed(number, 2, localeText(platform::LOCALE_STHOUSAND));
 }
 
 double CDbl(std::string_view text) {
     return NumberReader().read(text);
+}
+
+std::optional<double> ReadNumber(std::string_view text) {
+    try {
+        return CDbl(text);
+    } catch (const platform::RuntimeError&) {
+        return std::nullopt;
+    }
 }
 
 int CInt(std::string_view text) {

@@ -15,8 +15,10 @@ namespace quorvanta {
 // is no finite number.
 std::string CStr(double value);
 
-// An amount: digits in groups of three with the locale's thousands separator, two decimals, rounded
-// with halves away from zero as the number's 15 digits show them. Raises Overflow like CStr.
+// An amount: digits in groups of three with the locale's thousands separator, two decimals, a minus
+// in front of a negative one that isn't shown as 0. Rounded with halves away from zero on the
+// number's shortest text, the one of fewest digits that reads back as the number: 1.005 gives 1.01,
+// although the double lies a little below. Raises Overflow like CStr.
 std::string FormatMoney(double value);
 
 // A text as a number: blanks around it, a sign in front, digits, both of the locale's separators
@@ -25,6 +27,9 @@ std::string FormatMoney(double value);
 // Raises TypeMismatch for a text that is no number, the empty text too, and Overflow for one too
 // large for a double.
 double CDbl(std::string_view text);
+
+// The same, or nothing for a text that CDbl refuses.
+std::optional<double> ReadNumber(std::string_view text);
 
 // A text as a whole number of 16 bits, rounded half to even. Raises TypeMismatch and Overflow.
 int CInt(std::string_view text);
@@ -37,8 +42,11 @@ std::string ShortDateTime(const platform::DateTime& when);
 std::string FormatDate(const platform::DateTime& when, std::string_view picture);
 
 // The date that the locale reads in the text, or nothing. Its numbers stand in the order of the
-// short date, or year first with three or four digits; the month may be named, the year left out
-// for the present one, a time may follow. Years of two digits are those from 1950 to 2049.
+// short date with "/", "-", "." or blanks between, or year first with three or four digits; where
+// the locale has the year first and it stands last, the day and the month are in the order of the
+// long date. The month may be named, a time may follow. The year may be left out for the present
+// one, but not behind a "." that isn't the locale's own: "1.5" is a number to an American. Years of
+// two digits are those from 1950 to 2049.
 std::optional<platform::DateTime> ReadDate(std::string_view text);
 
 } // namespace quorvanta

@@ -84,6 +84,11 @@ TEST_F(Conversions, NumbersHaveFifteenDigitsAndNoMoreThanTheyNeed) {
 TEST_F(Conversions, AmountsAreGroupedAndRoundedAwayFromZero) {
     EXPECT_EQ(textsOf(FormatMoney, {0, -749.5, 0.125, -0.125, 1.005, -0.001, 0.005, 0.995}),
               "0.00 -749.50 0.13 -0.13 1.01 0.00 0.01 1.00 ");
+    EXPECT_EQ(
+        textsOf(FormatMoney, {999999999999.99, 12345678901234.56, 0.0049999999999999, -0.006}),
+        "999,999,999,999.99 12,345,678,901,234.56 0.00 -0.01 ");
+    EXPECT_EQ(CDbl(FormatMoney(std::numeric_limits<double>::max())),
+              std::numeric_limits<double>::max());
     EXPECT_EQ(textsOf(FormatMoney, {123456.78, 999999.995, 1e15}),
               "123,456.78 1,000,000.00 1,000,000,000,000,000.00 ");
     useGermanLocale();
@@ -160,9 +165,11 @@ TEST_F(Conversions, DatesFollowTheLocalesPictures) {
 }
 
 TEST_F(Conversions, ADateIsReadInTheOrderOfItsLocale) {
-    for (const char* text : {"7/5/2005", "07/05/05", " 7-5-2005 ", "2005-07-05", "7/5/2005 0:00"})
+    for (const char* text : {"7/5/2005", "07/05/05", " 7-5-2005 ", "7.5.2005", "2005-07-05",
+                             "7/5/2005 0:00", "7 5 2005"})
         EXPECT_EQ(ReadDate(text), kDay) << text;
-    EXPECT_EQ(ReadDate("7/5/2005 6:02:07 PM"), kEvening);
+    for (const char* text : {"7/5/2005 6:02:07 PM", "2005-07-05T18:02:07"})
+        EXPECT_EQ(ReadDate(text), kEvening) << text;
     EXPECT_EQ(ReadDate("7/5"), kDay);
     EXPECT_EQ(ReadDate("1/1/49")->year, 2049);
     EXPECT_EQ(ReadDate("1/1/50")->year, 1950);
@@ -178,7 +185,8 @@ TEST_F(Conversions, ADateIsReadInTheOrderOfItsLocale) {
 
 TEST_F(Conversions, WhatIsNoDateIsRefused) {
     for (const auto& text :
-         betweenBars("|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7.5.2005|6:42|"
+         betweenBars("|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/"
+                     "5-2005|6:42|12|13/13/2005|7.5|7,5|7 5|"
                      "7/5/2005 24:00|7/5/2005 6|7/5/2005 6:60|7/5/2005 PM|7/5/2005 13:00 PM|"
                      "7/5/2005/1|7/5/99/1|-7/5/2005|1.5|270,5|1e3|1/2/3/4/5/6/7"))
         EXPECT_EQ(ReadDate(text), std::nullopt) << text;
