@@ -16,6 +16,7 @@ public:
     bool BorderStyle = false; // a fixed single border
     bool AutoSize = false;    // grows with its text, so that nothing is cut off
     Alignment TextAlign = Alignment::Left;
+    bool shrinksText = false; // a smaller font, rather than a long text cut off
     // A number that a draw marks: a screen reader says "17, drawn" while it is red.
     bool speaksMarks = false;
 };
@@ -90,6 +91,7 @@ public:
     Property<int> SelStart{*this, Prop::Selection};
     Property<int> SelLength{*this, Prop::Selection};
     Alignment TextAlign = Alignment::Left;
+    bool shrinksText = false; // a smaller font, rather than a long text cut off
 };
 
 // Fires in the event loop, so it never interrupts running code.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace toolkit {
 
@@ -145,15 +146,18 @@ void ScreenObject::focusMoved(Control& now) {
     focus_ = &now;
     now.form().ActiveControl = &now;
     activeForm_ = &now.form();
-    if (before)
+    if (before && std::exchange(told_, nullptr) == before)
         before->lostFocus();
-    if (focus_ == &now)
+    if (focus_ == &now && told_ != &now) {
+        told_ = &now;
         now.gotFocus();
+    }
 }
 
 void ScreenObject::forget(Form& form) {
-    if (focus_ && &focus_->form() == &form)
-        focus_ = nullptr;
+    for (Control** control : {&focus_, &told_})
+        if (*control && &(*control)->form() == &form)
+            *control = nullptr;
     if (activeForm_ != &form)
         return;
     activeForm_ = nullptr;

@@ -133,7 +133,9 @@ public:
     Form* ActiveForm() const { return activeForm_; }
 
     // The focus went to a control of the program's pages. Anything else that takes the keyboard, a
-    // message box, a menu, another application, is no loss of focus and isn't told here.
+    // message box, a menu, another application, is no loss of focus and isn't told here. A control
+    // is told that it lost the focus, then the next that it got it; where the first takes it back
+    // meanwhile, the next is told nothing of either.
     void focusMoved(Control& now);
     // A form came to the front.
     void activated(Form& form) { activeForm_ = &form; }
@@ -144,6 +146,7 @@ private:
 
     Form* activeForm_ = nullptr;
     Control* focus_ = nullptr;
+    Control* told_ = nullptr; // the control that was told that it got the focus
 };
 extern ScreenObject Screen;
 

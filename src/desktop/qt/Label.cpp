@@ -38,6 +38,8 @@ public:
 
     void showCaption() override {
         widget_->setText(text(label_.Caption).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+        if (label_.shrinksText)
+            shrinkText();
         if (label_.AutoSize)
             widget_->resize(widget_->size().expandedTo(widget_->sizeHint()));
         speak();
@@ -61,6 +63,17 @@ public:
     }
 
 private:
+    // What the smallest size doesn't fit ends in dots, and is told whole by the tooltip.
+    void shrinkText() {
+        const QString whole = text(label_.Caption);
+        const int width = widget_->contentsRect().width() - 2;
+        widget_->setFont(fittingFont(label_.design, label_.FontBold, whole, width));
+        const QString shown = widget_->fontMetrics().elidedText(whole, Qt::ElideRight, width);
+        widget_->setText(shown);
+        widget_->setToolTip(shown == whole ? text(label_.ToolTipText) : whole);
+        widget_->setAccessibleName(whole);
+    }
+
     void speak() {
         if (!label_.speaksMarks)
             return;

@@ -1,5 +1,7 @@
 #include "desktop/qt/Look.h"
 
+#include <QFontMetrics>
+
 namespace desktop_qt {
 
 QColor colour(toolkit::Colour bgr) {
@@ -14,6 +16,14 @@ QFont font(const toolkit::Font& design, bool bold) {
     font.setItalic(design.italic);
     font.setUnderline(design.underline);
     return font;
+}
+
+QFont fittingFont(const toolkit::Font& design, bool bold, const QString& text, int width) {
+    QFont fitting = font(design, bold);
+    const int smallest = fitting.pixelSize() * 3 / 4;
+    while (fitting.pixelSize() > smallest && QFontMetrics(fitting).horizontalAdvance(text) > width)
+        fitting.setPixelSize(fitting.pixelSize() - 1);
+    return fitting;
 }
 
 QIcon picture(const std::string& name) {

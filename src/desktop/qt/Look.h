@@ -31,6 +31,10 @@ QColor colour(toolkit::Colour bgr);
 // a form, so that texts fit their controls at every resolution.
 QFont font(const toolkit::Font& design, bool bold);
 
+// The design font in a size, down to three quarters of the design's, in which the text is no wider
+// than `width` pixels.
+QFont fittingFont(const toolkit::Font& design, bool bold, const QString& text, int width);
+
 // A picture of the program, by its name. It is drawn anew for every size, so it stays sharp.
 QIcon picture(const std::string& name);
 

@@ -211,8 +211,13 @@ void QtDesktop::close(Form& form) {
 }
 
 void QtDesktop::focus(Control& control) {
-    if (QWidget* const widget = widgetOf(control))
-        widget->setFocus(Qt::OtherFocusReason);
+    QWidget* const widget = widgetOf(control);
+    if (!widget)
+        return;
+    widget->setFocus(Qt::OtherFocusReason);
+    // Just behind a message box the window isn't in front again, and Qt tells of the move later.
+    if (widget->isVisible() && widget->window()->focusWidget() == widget)
+        toolkit::Screen.focusMoved(control);
 }
 
 int QtDesktop::messageBox(const MessageBox& box) {

@@ -1,13 +1,20 @@
 #include "desktop/qt/ControlPeer.h"
 
+#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include <utility>
 
 namespace desktop_qt {
 
 namespace {
 
-class BoxWidget final : public QLineEdit {
+// A click that brings the focus leaves what the program has selected when the focus came.
+class LineEdit final : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
 
@@ -27,6 +34,23 @@ protected:
             kept.setCommitString(typed, event->replacementStart(), event->replacementLength());
         QLineEdit::inputMethodEvent(&kept);
     }
+    void focusInEvent(QFocusEvent* event) override {
+        entered_ = event->reason() == Qt::MouseFocusReason;
+        QLineEdit::focusInEvent(event);
+    }
+    void mousePressEvent(QMouseEvent* event) override {
+        entering_ = std::exchange(entered_, false) && hasSelectedText();
+        if (!entering_)
+            QLineEdit::mousePressEvent(event);
+    }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        if (!entering_)
+            QLineEdit::mouseMoveEvent(event);
+    }
+
+private:
+    bool entered_ = false;  // the focus came by a press that is still to be told
+    bool entering_ = false; // that press is the last
 };
 
 class TextBoxPeer final : public ControlPeer {
@@ -35,6 +59,8 @@ public:
         : ControlPeer(box, widget), box_(box), widget_(widget) {
         widget->setAlignment(box.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
                                                                         : Qt::AlignLeft);
+        if (box.shrinksText)
+            QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this] { shrinkText(); });
         showText();
         QObject::connect(widget, &QLineEdit::textEdited, &listener_,
                          [this](const QString& typed) { box_.Text.assume(typed.toStdString()); });
@@ -59,6 +85,21 @@ private:
         widget_->setCursorPosition(0); // a long text shows its beginning
     }
 
+    // Of a text that the smallest size doesn't fit the beginning is shown, until it is worked on.
+    void shrinkText() {
+        QStyleOptionFrame option;
+        option.initFrom(widget_);
+        const QStyle& style = *widget_->style();
+        const int frame = style.pixelMetric(QStyle::PM_DefaultFrameWidth, &option, widget_);
+        const int width = widget_->width() - 2 * (frame + kMargin);
+        widget_->setFont(fittingFont(box_.design, box_.FontBold, widget_->text(), width));
+        if (!widget_->isModified() &&
+            widget_->fontMetrics().horizontalAdvance(widget_->text()) > width)
+            widget_->home(false);
+    }
+
+    static constexpr int kMargin = 3; // of a line edit between its frame and its text, in pixels
+
     toolkit::TextBox& box_;
     QLineEdit* widget_;
 };
@@ -66,7 +107,7 @@ private:
 } // namespace
 
 std::unique_ptr<ControlPeer> makeTextBox(toolkit::TextBox& box, QWidget* parent) {
-    return std::make_unique<TextBoxPeer>(box, new BoxWidget(parent));
+    return std::make_unique<TextBoxPeer>(box, new LineEdit(parent));
 }
 
 } // namespace desktop_qt

@@ -150,7 +150,9 @@ public:
             focusForm(form_); // or the page would come up with the first of a group of options
         page_->isMinimized() ? page_->showNormal() : page_->show();
         area().setActiveSubWindow(page_);
-        focusForm(form_);
+        // Unless a box on the page that was left has taken the focus back.
+        if (area().currentSubWindow() == page_)
+            focusForm(form_);
     }
 
 private:
