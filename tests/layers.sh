@@ -12,7 +12,7 @@ layer() {
     [[ -z $bad ]] || { echo "$bad"; status=1; }
 }
 program='frame/|numbers/|lists/|bankroll/|storage/|common/'
-layer "$(find frame numbers lists storage common -name '*.h' -o -name '*.cpp')" \
+layer "$(find frame numbers lists bankroll storage common -name '*.h' -o -name '*.cpp')" \
     "$program|toolkit/|platform/[A-Za-z]+\.h"
 layer "$(find toolkit -name '*.h' -o -name '*.cpp')" 'toolkit/|platform/RuntimeError\.h'
 layer "$(ls platform/*.h platform/*.cpp)" 'platform/[A-Za-z]+\.h'

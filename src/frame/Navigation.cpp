@@ -1,5 +1,6 @@
 #include "frame/Navigation.h"
 
+#include "bankroll/frmBankroll.h"
 #include "common/Trap.h"
 #include "common/cInternet.h"
 #include "frame/frmAbout.h"
@@ -22,7 +23,13 @@ void mnuFavorites_Click() {
     frmFavorites::the().Show();
 }
 
-// This page has not joined the program yet.
+void mnuBankroll_Click() {
+    frmBankroll::the().Show();
+}
+
+// These have not joined the program yet.
+void mnuAbout_Click() {}
+void mnuWebsite_Click(toolkit::Form& /*frm*/) {}
 void mnuBankroll_Click() {}
 
 void mnuAbout_Click() {

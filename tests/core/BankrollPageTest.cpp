@@ -1,0 +1,196 @@
+#include "bankroll/frmBankroll.h"
+#include "common/Conversions.h"
+#include "frame/MDIForm1.h"
+#include "frame/MainCode_ZW.h"
+#include "numbers/frmMain.h"
+#include "tests/support/ProgramTest.h"
+
+namespace {
+
+using namespace quorvanta;
+using namespace tests;
+
+using Texts = std::vector<std::string>;
+const std::string kNumeric = "Please enter only a Numeric value",
+                  kEnterDate = "Please enter a date";
+
+class BankrollPageTest : public ProgramTest {
+protected:
+    BankrollPageTest() {
+        gdblWin = 1250.5;
+        gdblLoss = 980;
+        gdblLargest = 500;
+        gstrBankrollDate = "3/2/2005";
+        gstrShortDateFormat = "M/d/yyyy";
+    }
+    static frmBankroll& open() {
+        frmBankroll::the().Show();
+        return frmBankroll::the();
+    }
+    // What the boxes, in the order of their indices, and the balance show, and its colour.
+    static std::string shown() {
+        std::string texts;
+        for (int i = 0; i <= 3; ++i)
+            texts += frmBankroll::the().txtWin(i).Text.get() + "|";
+        const auto& balance = frmBankroll::the().lblBalance;
+        return texts + balance.Caption.get() +
+               (balance.ForeColor == toolkit::kRed ? " red" : " blue");
+    }
+    static std::string stored() {
+        return CStr(gdblWin) + "|" + CStr(gdblLoss) + "|" + CStr(gdblLargest) + "|" +
+               FormatMoney(gdblBalance) + "|" + gstrBankrollDate;
+    }
+    // Types into a box and goes on to the next in the tab order.
+    static void enter(int box, const std::string& text) {
+        frmBankroll& page = frmBankroll::the();
+        page.txtWin(box).SetFocus();
+        page.txtWin(box).Text = text;
+        static constexpr int kNext[] = {2, 3, 1};
+        box == 3 ? page.cmdCancel.SetFocus() : page.txtWin(kNext[box]).SetFocus();
+    }
+};
+
+TEST_F(BankrollPageTest, EachBoxGoesThroughTheChainWhenItIsLeft) {
+    struct Row {
+        int box;
+        const char *typed, *shown, *stored;
+        Texts boxes = {};
+    };
+    const Row rows[] = {
+        {2, "1000", "3/2/2005|1,250.50|1,000.00|500.00|250.50 blue",
+         "1250.5|1000|500|250.50|3/2/2005"},
+        {2, "2000", "3/2/2005|1,250.50|2,000.00|500.00|-749.50 red",
+         "1250.5|2000|500|-749.50|3/2/2005"},
+        {1, "0.125", "3/2/2005|0.13|2,000.00|500.00|-1,999.87 red",
+         "0.13|2000|500|-1,999.87|3/2/2005"},
+        {1, "2e3", "3/2/2005|2,000.00|2,000.00|500.00|0.00 blue", "2000|2000|500|0.00|3/2/2005"},
+        {1, "1,999.994", "3/2/2005|1,999.99|2,000.00|500.00|-0.01 red",
+         "1999.99|2000|500|-0.01|3/2/2005"},
+        {3, "-7", "3/2/2005|1,999.99|2,000.00|-7.00|-0.01 red", "1999.99|2000|-7|-0.01|3/2/2005"},
+        {3, "-.004", "3/2/2005|1,999.99|2,000.00|0.00|-0.01 red", "1999.99|2000|0|-0.01|3/2/2005"},
+        {1,
+         "abc",
+         "3/2/2005||2,000.00|0.00|-0.01 red",
+         "1999.99|2000|0|-0.01|3/2/2005",
+         {kNumeric}},
+        {1, "", "3/2/2005||2,000.00|0.00|-0.01 red", "1999.99|2000|0|-0.01|3/2/2005"},
+        {2, "1.234,50", "3/2/2005|||0.00|-0.01 red", "1999.99|2000|0|-0.01|3/2/2005", {kNumeric}},
+        {2, "1e400", "3/2/2005|||0.00|-0.01 red", "1999.99|2000|0|-0.01|3/2/2005", {kNumeric}},
+        {2, " ", "3/2/2005|||0.00|-0.01 red", "1999.99|2000|0|-0.01|3/2/2005", {kNumeric}},
+        {0, "July 4, 05", "July 4, 05|||0.00|-0.01 red", "1999.99|2000|0|-0.01|7/4/2005"},
+        {0, "3/2/2005", "3/2/2005|||0.00|-0.01 red", "1999.99|2000|0|-0.01|3/2/2005"},
+        {0,
+         "13/13/2005",
+         "7/25/2005|||0.00|-0.01 red",
+         "1999.99|2000|0|-0.01|7/25/2005",
+         {kEnterDate}},
+        {0, "", "|||0.00|-0.01 red", "1999.99|2000|0|-0.01|7/25/2005"},
+    };
+    os.locale.items[62] = "July";
+    open();
+    EXPECT_EQ(shown(), "3/2/2005|1,250.50|980.00|500.00|270.50 blue");
+    for (const Row& row : rows) {
+        enter(row.box, row.typed);
+        EXPECT_EQ(shown(), row.shown) << row.typed;
+        EXPECT_EQ(stored(), row.stored) << row.typed;
+        EXPECT_EQ(desk.takeBoxes(), row.boxes) << row.typed;
+        EXPECT_EQ(frmBankroll::the().ActiveControl == &frmBankroll::the().txtWin(row.box),
+                  row.boxes == Texts{kNumeric});
+    }
+}
+
+TEST_F(BankrollPageTest, OpeningRoundsTheAmountsButNeverChangesTheStoredDate) {
+    gdblWin = 1.005;
+    gdblBalance = 77;
+    gstrBankrollDate = "25.3.2005"; // of a file from another locale
+    frmBankroll* page = &open();
+    EXPECT_EQ(desk.takeBoxes(), Texts{kEnterDate});
+    EXPECT_EQ(shown(), "7/25/2005|1.01|980.00|500.00|-978.99 red");
+    EXPECT_EQ(stored(), "1.01|980|500|-978.99|25.3.2005");
+    page->mnuClose.click();
+    open().txtWin(1).SetFocus(); // the user leaves the box with another text than the stored one
+    EXPECT_EQ(gstrBankrollDate, "7/25/2005");
+    userClick(frmBankroll::the().cmdCancel);
+    EXPECT_EQ(frmBankroll::ifLoaded(), nullptr);
+
+    desk.boxes.clear();
+    gdblWin = gdblLoss = gdblLargest = 0;
+    gstrBankrollDate.clear();
+    page = &frmBankroll::the();
+    page->Load();
+    EXPECT_EQ(shown(), "|0.00|0.00|0.00|0.00 blue");
+    page->Show(); // the focus comes to the date box
+    EXPECT_EQ(page->txtWin(0).Text.get(), "7/25/2005");
+    EXPECT_EQ(gstrBankrollDate, "");
+    page->txtWin(2).SetFocus();
+    EXPECT_EQ(page->txtWin(2).SelLength, 4);
+    EXPECT_EQ(gstrBankrollDate, "7/25/2005");
+    EXPECT_TRUE(desk.boxes.empty());
+}
+
+TEST_F(BankrollPageTest, AnOverflowingBalanceIsReportedAndTheAnswerDecides) {
+    struct Row {
+        int answer;
+        double balance;
+        const char* caption;
+    };
+    const Row rows[] = {{toolkit::Abort, -1, "0.00 blue"}, // as it was before
+                        {toolkit::Ignore, -1, "-1.00 red"},
+                        {toolkit::Retry, 1, "1.00 blue"}};
+    gdblWin = gdblLoss = 0;
+    for (const Row& row : rows) {
+        frmBankroll& page = open();
+        page.txtWin(1).SetFocus();
+        page.txtWin(1).Text = "1.7e308";
+        gdblLoss = -1.7e308;
+        gdblBalance = -1;
+        desk.answers = {row.answer};
+        desk.onBox = [&] {
+            if (row.answer == toolkit::Retry)
+                gdblWin = 1, gdblLoss = 0;
+        };
+        page.txtWin(3).SetFocus();
+        EXPECT_EQ(desk.takeReports(), Texts{"6 frmBankroll.txtWin_LostFocus"});
+        EXPECT_TRUE(shown().ends_with(std::string("|") + row.caption)) << shown();
+        EXPECT_EQ(gdblBalance, row.balance);
+        gdblWin = gdblLoss = 0;
+        page.Unload();
+    }
+}
+
+TEST_F(BankrollPageTest, AWrongTextHoldsUpOnlyWhatTakesTheFocus) {
+    const auto type = [] { open().txtWin(1).SetFocus(), open().txtWin(1).Text = "abc"; };
+    type();
+    frmMain::the().Show(); // the box takes the focus back
+    EXPECT_EQ(desk.takeBoxes(), Texts{kNumeric});
+    EXPECT_EQ(toolkit::Screen.ActiveForm(), &frmBankroll::the());
+    frmMain::the().Show(); // it is empty now
+    EXPECT_EQ(toolkit::Screen.ActiveForm(), &frmMain::the());
+    type();
+    frmBankroll::the().cmdCancel.click(); // Esc moves no focus
+    EXPECT_EQ(frmBankroll::ifLoaded(), nullptr);
+    type();
+    EXPECT_THROW(EndApp(MDIForm1::the()), ProcessEnded);
+    EXPECT_TRUE(desk.boxes.empty());
+    EXPECT_NE(
+        os.files.content["/app/Quorvanta.txt"].find("Win:1250.5\r\nLoss:980\r\nBal:270.5\r\n"),
+        std::string::npos);
+}
+
+TEST_F(BankrollPageTest, TheCalculatorIsTheFirstOfTheFirstDirectoryAndTheButtonHiddenWithoutOne) {
+    gstrWinDirectory = "/windows";
+    gstrWinSysDirectory = "/system";
+    const std::pair<const char*, Texts> rows[] = {{"", {}},
+                                                  {"/system/sums", {"/system/sums"}},
+                                                  {"/windows/abacus", {"/windows/abacus"}},
+                                                  {"/windows/sums", {"/windows/sums"}}};
+    for (const auto& [file, started] : rows) {
+        os.files.content[file] = "";
+        userClick(open().cmdCalc);
+        EXPECT_EQ(std::exchange(os.shell.started, {}), started) << file;
+        EXPECT_EQ(frmBankroll::the().cmdCalc.Visible, !started.empty()) << file;
+        frmBankroll::the().Unload();
+    }
+}
+
+} // namespace
