@@ -27,11 +27,6 @@ void mnuBankroll_Click() {
     frmBankroll::the().Show();
 }
 
-// These have not joined the program yet.
-void mnuAbout_Click() {}
-void mnuWebsite_Click(toolkit::Form& /*frm*/) {}
-void mnuBankroll_Click() {}
-
 void mnuAbout_Click() {
     frmAbout::the().Show(true);
 }

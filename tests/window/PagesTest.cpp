@@ -1,5 +1,6 @@
 // The program's pages as real windows on a real X server: the mouse and the keyboard are those of
 // xdotool.
+#include "bankroll/frmBankroll.h"
 #include "common/MakerSite.h"
 #include "common/frmURL.h"
 #include "desktop/qt/ControlPeer.h"
@@ -242,6 +243,45 @@ TEST_F(PagesTest, TheFavoritesPageIsWorkedByKeyboardAlone) {
     EXPECT_TRUE(until([] { return gstrFavorites[1] == "5;9;;;;;"; }));
     key("Escape");
     EXPECT_TRUE(until([] { return !frmFavorites::ifLoaded(); }));
+}
+
+TEST_F(PagesTest, AWrongAmountIsRefusedOnceAndOneClickMoreGoesOn) {
+    const std::string kRefusal = "Please enter only a Numeric value";
+    os.files.content["/sums"];
+    auto& page = open<frmBankroll>("bankroll");
+    toolkit::TextBox& wins = page.txtWin(1);
+    const auto typeWrong = [&] {
+        click(wins); // brings the focus, and the whole text is selected
+        xdotool({"type", "abc"});
+        EXPECT_TRUE(until([&] { return wins.Text.get() == "abc"; }));
+    };
+    const auto backInTheBox = [&] {
+        return until([&] { return widget(wins).hasFocus() && wins.Text.get().empty(); });
+    };
+    const std::function<void()> ways[] = {
+        [&] { click(page.txtWin(3)); },
+        [] { key("Tab"); },
+        [&] { click(page.cmdCalc); },
+        [] { press("lotto"); },
+        [&] { click(frmMain::the().cmdJackpot); },
+        [&] {
+            click(*dynamic_cast<desktop_qt::FormPeer*>(frmMain::the().peer())->window(), {60, 8});
+        },
+        [&] { click(page.cmdCancel); }};
+    for (const auto& way : ways) {
+        typeWrong();
+        EXPECT_EQ(answer(way, "OK"), kRefusal);
+        EXPECT_TRUE(backInTheBox());
+        EXPECT_EQ(toolkit::Screen.ActiveForm(), &page);
+    }
+    EXPECT_FALSE(dynamic_cast<QPushButton&>(widget(page.cmdCancel)).isDown());
+    EXPECT_TRUE(os.shell.started.empty());
+    click(page.cmdCalc);
+    EXPECT_TRUE(until([&] { return os.shell.started.size() == 1; }));
+    typeWrong();
+    key("Escape");
+    EXPECT_TRUE(until([] { return !frmBankroll::ifLoaded(); }));
+    EXPECT_EQ(box(), nullptr);
 }
 
 TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {

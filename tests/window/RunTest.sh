@@ -84,4 +84,26 @@ rmdir "$data"
 keys r # Retry
 wait "$program" || fail "the program ended with code $?"
 [[ $(row 30) == Loss:5 ]] || fail "the save after Retry holds $(row 30)"
+# The bankroll in two locales: opened from the toolbar, typed in with the keyboard, balance and all.
+bankroll() {
+    printf '[Win/Loss]\r\nWin:%s\r\nLoss:980\r\nLarge:500\r\nDate:%s\r\n' "$2" "$3" >"$data"
+    start_program "$place/quorvanta" "$1"
+    click_tool 147
+    keys Tab
+    xdotool type "$4"
+    keys Tab
+    xdotool type "$5" # not left: it is no edit yet
+    exit_program
+    [[ $(sed -n '29,33s/\r$//p' "$data" | tr '\n' ' ') == "$6 " ]] ||
+        fail "the bankroll in $1 is $(tail -n 5 "$data")"
+}
+bankroll en_US.UTF-8 1250.5 3/2/2005 2,000 7 'Win:1250.5 Loss:2000 Bal:-749.5 Large:500 Date:3/2/2005'
+bankroll de_DE.UTF-8 1250,5 02.03.2005 1.000,004 7 'Win:1250,5 Loss:1000 Bal:250,5 Large:500 Date:02.03.2005'
+start_program "$place/quorvanta" de_DE.UTF-8
+click_tool 147
+keys Tab Tab Tab Tab Tab space # the calculator
+await xdotool search --onlyvisible --class galculator
+xdotool search --onlyvisible --class galculator windowkill
+end_program
+[[ $(row 30) == Loss:1000 && $(row 31) == Bal:250,5 ]] || fail "read back as $(row 30) $(row 31)"
 echo "Every run went as told."

@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -135,9 +136,11 @@ QApplication& QtDesktop::application() {
     QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
     application_->setQuitOnLastWindowClosed(false);    // the list of loaded forms decides
     application_->installEventFilter(this);
-    connect(application_.get(), &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
-        if (Control* const control = controlOf(now))
+    connect(application_.get(), &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (Control* const control = controlOf(now)) {
+            const QScopedValueRollback moving(focusMoves_, true);
             toolkit::Screen.focusMoved(*control);
+        }
     });
     connect(application_.get(), &QGuiApplication::commitDataRequest, this, [this] {
         if (sessionEnds_)
@@ -218,6 +221,14 @@ void QtDesktop::focus(Control& control) {
     // Just behind a message box the window isn't in front again, and Qt tells of the move later.
     if (widget->isVisible() && widget->window()->focusWidget() == widget)
         toolkit::Screen.focusMoved(control);
+    // Where the focus is just going to another page, Qt goes on to activate that.
+    if (focusMoves_)
+        QTimer::singleShot(0, widget, [widget] {
+            for (QWidget* around = widget; around; around = around->parentWidget())
+                if (auto* const page = qobject_cast<QMdiSubWindow*>(around))
+                    page->mdiArea()->setActiveSubWindow(page);
+            widget->setFocus(Qt::OtherFocusReason);
+        });
 }
 
 int QtDesktop::messageBox(const MessageBox& box) {

@@ -63,6 +63,7 @@ private:
     std::unique_ptr<QApplication> application_;
     std::uintptr_t lastHandle_ = 0;
     std::function<void()> sessionEnds_;
+    bool focusMoves_ = false; // a control is just being told that the focus goes or comes
 };
 
 } // namespace desktop_qt

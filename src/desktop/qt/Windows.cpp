@@ -70,17 +70,18 @@ toolkit::Control* selectedOf(toolkit::Control& option) {
     return &option;
 }
 
-// Gives the keyboard to the control that had it, at first to the first in the tab order.
+// The control that had the keyboard, at first the first in the tab order; nullptr without any.
+toolkit::Control* focusTarget(Form& form) {
+    if (form.ActiveControl)
+        return form.ActiveControl;
+    for (toolkit::Control* control : tabOrder(form))
+        if (control->Visible && control->Enabled)
+            return dynamic_cast<toolkit::OptionButton*>(control) ? selectedOf(*control) : control;
+    return nullptr;
+}
+
 void focusForm(Form& form) {
-    toolkit::Control* target = form.ActiveControl;
-    if (!target)
-        for (toolkit::Control* control : tabOrder(form))
-            if (control->Visible && control->Enabled) {
-                target =
-                    dynamic_cast<toolkit::OptionButton*>(control) ? selectedOf(*control) : control;
-                break;
-            }
-    if (target)
+    if (const toolkit::Control* const target = focusTarget(form))
         widgetOf(*target)->setFocus(Qt::ActiveWindowFocusReason);
 }
 
@@ -145,14 +146,25 @@ public:
         frame_.swapMenus();
     }
 
+    // The focus moves before the window does, as a box on the page in front may take it back: then
+    // that page stays in front.
     void show() override {
-        if (!form_.ActiveControl)
-            focusForm(form_); // or the page would come up with the first of a group of options
+        Form& form = form_;
+        Form* front = &form;
+        if (toolkit::Control* const target = focusTarget(form)) {
+            toolkit::Screen.focusMoved(*target);
+            front = toolkit::Screen.ActiveForm();
+        }
+        if (form.peer() != this)
+            return; // unloaded meanwhile, and this with it
+        if (front == &form)
+            focusForm(form); // or the page would come up with the first of a group of options
         page_->isMinimized() ? page_->showNormal() : page_->show();
-        area().setActiveSubWindow(page_);
-        // Unless a box on the page that was left has taken the focus back.
-        if (area().currentSubWindow() == page_)
-            focusForm(form_);
+        const auto* const peer = front ? dynamic_cast<PagePeer*>(front->peer()) : nullptr;
+        if (!peer || form.peer() != this)
+            return;
+        area().setActiveSubWindow(peer->page_);
+        focusForm(*front);
     }
 
 private:
