@@ -105,11 +105,6 @@ TEST_F(Conversions, NumbersAreReadWithSignSeparatorsAndExponent) {
     EXPECT_EQ(numbersOf(half + "|" + half + "1"), Numbers({9007199254740992, 9007199254740994}));
     useGermanLocale();
     EXPECT_EQ(numbersOf("270.5|1.234,50"), Numbers({2705, 1234.5}));
-    useSeparators(",", "\u00A0");
-    EXPECT_EQ(numbersOf("1\u00A0234,5|1\u202F234,5|1 234,5|\u00A01234,5\u202F"),
-              Numbers(4, 1234.5));
-    useSeparators(".", "’");
-    EXPECT_EQ(numbersOf("1’234.5|1'234.5"), Numbers(2, 1234.5));
 }
 
 TEST_F(Conversions, WhatIsNoNumberIsATypeMismatchAndATooLargeOneAnOverflow) {
