@@ -281,7 +281,7 @@ TEST_F(PagesTest, AWrongAmountIsRefusedOnceAndOneClickMoreGoesOn) {
     typeWrong();
     key("Escape");
     EXPECT_TRUE(until([] { return !frmBankroll::ifLoaded(); }));
-    EXPECT_EQ(box(), nullptr);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(PagesTest, NoToTheExitQuestionKeepsTheRunAndItsPages) {
