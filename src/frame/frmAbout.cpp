@@ -54,6 +54,7 @@ frmAbout::frmAbout() : FormOf(Kind::TopLevel, "frmAbout", 4860, 3900) {
         lblCopyright(i).FontBold = true;
     }
     lblUser.TextAlign = toolkit::Alignment::Centre;
+    lblUser.shrinksText = true;
     lblUser.TabIndex = 10;
     for (int i = 0; i < kEmblemFrames; ++i) {
         auto& image = imgLogo.load(i, *this, "", toolkit::Place{5000, 0, 480, 480});
@@ -90,7 +91,6 @@ void frmAbout::NameUser() {
             lblUser.Caption =
                 platform::current().locale.fromBytes(cLocalSettings::StringFromBuffer(buffer));
         });
-        step([&] { lblUser.ToolTipText = lblUser.Caption; }); // a long name has no room in its line
     });
 }
 
