@@ -51,6 +51,7 @@ frmMain::frmMain() : FormOf(Kind::MDIChild, "frmMain", 6825, 5265) {
 
 void frmMain::buildBoard() {
     auto& frame = fra2.load(0, *this, "", toolkit::Place{120, 270, 4560, 4590});
+    frame.spokenAs = "Board";
     for (int n = 1; n <= kNumbers; ++n) {
         const double left = 75.0 + (n - 1) % 7 * 630 - ((n - 1) % 7 > 0 ? 15 : 0);
         const double top = 150.0 + (n - 1) / 7 * 630;

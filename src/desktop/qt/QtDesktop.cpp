@@ -133,6 +133,8 @@ QApplication& QtDesktop::application() {
     QApplication::setApplicationName(QStringLiteral("quorvanta"));
     QApplication::setDesktopFileName(QStringLiteral("example.zephyrwick.quorvanta"));
     application_ = std::make_unique<QApplication>(argc_, argv_);
+    // The texts are English whatever the locale is, and a board reads 1, 2, 3 from the left.
+    QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
     application_->setQuitOnLastWindowClosed(false);    // the list of loaded forms decides
     application_->installEventFilter(this);

@@ -3,6 +3,7 @@
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/Menu.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
@@ -194,6 +195,12 @@ private:
     Form& form_;
 };
 
+// Without this a window of its own is told as a mere group of widgets.
+QAccessibleInterface* describeWindow(const QString& /*className*/, QObject* object) {
+    auto* const window = dynamic_cast<TopLevelWindow*>(object);
+    return window ? new QAccessibleWidget(window, QAccessible::Dialog) : nullptr;
+}
+
 } // namespace
 
 FormPeer::~FormPeer() {
@@ -310,6 +317,9 @@ std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
     page->setWidget(makeContent(form, page));
     page->setMenus(makeMenus(form, page));
     page->setAttribute(Qt::WA_DeleteOnClose, false);
+    // Tab goes round inside the page. On its way over the page's window Qt would keep in mind to
+    // move on by one at each return from a message box.
+    page->setFocusPolicy(Qt::ClickFocus);
     Qt::WindowFlags flags = Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     flags.setFlag(Qt::WindowMinimizeButtonHint, form.MinButton);
@@ -321,6 +331,7 @@ std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
 }
 
 std::unique_ptr<FormPeer> makeTopLevelWindow(Form& form) {
+    QAccessible::installFactory(describeWindow); // a second time changes nothing
     auto* const window = new TopLevelWindow(form);
     mark(window, form);
     QWidget* const content = makeContent(form, window);
