@@ -5,7 +5,8 @@ build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libicu-dev
 display_packages=(xvfb openbox imagemagick x11-utils xdotool fonts-dejavu-core)
 test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     printer-driver-cups-pdf poppler-utils desktop-file-utils appstream libglib2.0-bin
-    gtk-update-icon-cache galculator "${display_packages[@]}")
+    gtk-update-icon-cache galculator at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
+    "${display_packages[@]}")
 check_packages=(clang-format)
 
 # Installs those of the named packages that are missing, through sudo where not root.

@@ -31,26 +31,6 @@ TEST_F(Customize6Test, SevenPickedNumbersAreFiledInRisingOrderAndStoredAtOnce) {
     EXPECT_EQ(page.grd1.row(), 0);
 }
 
-TEST_F(Customize6Test, TheBoardShowsTheChosenRowAndADrawTakesSixOfIt) {
-    fillRows(gstrStammNumbers, "1");
-    auto& page = open<frmCustomize6>();
-    EXPECT_EQ(board(page), Board(49, 0));
-    page.mnuJackpotGenerator.click(); // the page opens with row 1
-    EXPECT_EQ(board(page), Board(7, 6));
-    userClickRow(page.grd1, 1);
-    EXPECT_EQ(pool(page), (Numbers{1, 8, 15, 22, 29, 36, 43}));
-    EXPECT_EQ(drawn(page), Numbers{});
-    userClick(page.cmdJackpot);
-    userClickRow(page.grd1, 2);
-    userClick(page.cmdJackpot);
-    EXPECT_EQ(board(page), Board(0, 0));
-    pick(page, {7}); // leaves no row chosen, and plays no part in a draw
-    userClick(page.cmdJackpot);
-    EXPECT_EQ(board(page), Board(49, 6));
-    userClick(page.cmdReset);
-    EXPECT_EQ(board(page), Board(49, 0));
-}
-
 // Rows that only a file edited by hand can bring.
 TEST_F(Customize6Test, AnOddRowIsStoredAsItWasAndNeverHangsADraw) {
     struct Case {
@@ -136,16 +116,6 @@ TEST_F(Customize6Test, ARowOfAllNumbersIsSavedAlsoIfTheProgramEndsWithinADraw) {
     EXPECT_THROW(userClick(page.cmdJackpot), ProcessEnded);
     EXPECT_NE(os.files.content["/app/Quorvanta.txt"].find("1.1;2;3;4;5;6;7;8;"), std::string::npos);
     EXPECT_TRUE(gstrStammNumbers[1].ends_with(";48;49;"));
-}
-
-TEST_F(Customize6Test, MenusAndKeysReachEverything) {
-    const auto& page = open<frmCustomize6>();
-    EXPECT_EQ(page.Caption.get(), "Quor Vanta  - Customize 6");
-    EXPECT_FALSE(page.mnuCustomize.Enabled);
-    EXPECT_EQ(page.mnuJackpotGenerator.Shortcut, "F5");
-    const auto order = tabOrder(page);
-    ASSERT_EQ(order.size(), 55U);
-    EXPECT_TRUE(order[0] == &page.cmdKey(1) && order[54] == &page.cmdJackpot);
 }
 
 } // namespace

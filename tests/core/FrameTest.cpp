@@ -53,22 +53,6 @@ TEST_F(FrameTest, ARunBeginsWithTheSplashAndTheDataReadAndGoesOnWithTheEmptyFram
     EXPECT_TRUE(desk.boxes.empty());
 }
 
-TEST_F(FrameTest, AKeyOnTheSplashOpensTheFrameAtOnce) {
-    frmSplash::the().Show();
-    int key = 'x';
-    frmSplash::the().previewKeyPress(key);
-    EXPECT_EQ(loaded(), Names{"MDIForm1"});
-}
-
-TEST_F(FrameTest, ASecondInstanceEndsWithoutWritingAnything) {
-    toolkit::App.PrevInstance = true;
-    EXPECT_THROW(Main(), ProcessEnded);
-    EXPECT_TRUE(os.files.content.empty());
-    EXPECT_EQ(os.settings.saves, 0);
-    EXPECT_EQ(os.random.seeds, 0);
-    EXPECT_EQ(toolkit::Forms.Count(), 0);
-}
-
 TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
     frame();
     for (const char* key : {"lotto", "customizesix", "favorites", "bankroll", "lotto"})

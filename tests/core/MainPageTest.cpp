@@ -33,14 +33,6 @@ protected:
     }
 };
 
-TEST_F(MainPageTest, TheFirstOpenChoosesAPlainPlayAndStoresIt) {
-    const frmMain& page = open();
-    EXPECT_EQ(page.Caption.get(), "Quor Vanta  - 6 From 49");
-    EXPECT_EQ(chosen(page), "o0m0");
-    EXPECT_EQ(os.settings.values[kSetting], "0");
-    EXPECT_EQ(red(page), 0U);
-}
-
 TEST_F(MainPageTest, EverySystemMarksItsCountAndComesBackAtTheNextOpen) {
     const std::vector<std::size_t> counts{6, 7, 8, 9, 10, 11, 12, 13, 22, 26};
     for (int i = 9; i >= 0; --i) {

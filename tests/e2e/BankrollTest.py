@@ -1,0 +1,79 @@
+"""The page "Bankroll", kept by a German user."""
+
+import time
+
+from desk import BLUE, RED, Atspi, Road, click, has, keys, shows, until, xdotool
+
+BOXES = ["Date Started", "Total Amount of Bets", "Winnings", "Largest Win"]
+
+
+class Bankroll(Road):
+    def open(self):
+        program = self.run_program(locale="de_DE.UTF-8")
+        program.tool("Bankroll")
+        return program, program.page("Bankroll")
+
+    def test_amounts_are_kept_in_the_users_form_and_refused_where_they_are_none(self):
+        self.write_data("[Win/Loss]", "Win:1250,5", "Loss:980", "Large:500", "Date:25.07.2005")
+        program, page = self.open()
+
+        def boxes():
+            return [Atspi.Text.get_text(page["text", name], 0, -1) for name in BOXES]
+
+        def balance(amount, colour):
+            label = page["label", "270,50"]
+            return label.get_name() == amount and shows(colour, [label])[0]
+
+        self.assertEqual(page.lines, [
+            "panel: Bankroll", "  label: 270,50, Date Started", "  text: Date Started",
+            "  label: Total Amount of Bets", "  text: Total Amount of Bets",
+            "  label: Winnings  ", "  text: Winnings", "  label: Largest Win",
+            "  text: Largest Win", "  label: Balance", "push button: Close, Calculator"])
+        self.assertEqual(program.menus()[:2], [
+            "File: 6 From 49, Bankroll (grey), Customize 6, Favorites, -, Close",
+            "Quor Vanta: Quorvanta Website"])
+        self.check_order(page, ("text", BOXES), ("push button", ["Close", "Calculator"]))
+        self.assertEqual(boxes(), ["25.07.2005", "980,00", "1.250,50", "500,00"])
+        until(lambda: balance("270,50", BLUE), "a blue balance")
+        keys(*"2000", "Tab")  # over the whole text, which is selected
+        until(lambda: boxes()[1] == "2.000,00" and balance("-749,50", RED), "a red balance")
+        keys(*"abc", "Tab")
+        self.assertEqual(program.answer("OK"), "Please enter only a Numeric value")
+        until(lambda: boxes()[2] == "" and has(page["text", "Winnings"], "FOCUSED"), "an empty box")
+        click(page["text", "Date Started"])
+        keys("x", "Tab")
+        self.assertEqual(program.answer("OK"), "Please enter a date")
+        today = time.strftime("%d.%m.%Y")
+        until(lambda: boxes() == [today, "2.000,00", "", "500,00"], "today")
+        keys("Escape")
+        until(lambda: not program.pages(), "the page's end")
+        program.end()
+        self.assertEqual(self.data()[29:34], ["Win:1250,5", "Loss:2000", "Bal:-749,5", "Large:500",
+                                              "Date:" + today])
+
+        program, page = self.open()
+        self.assertEqual(boxes(), [today, "2.000,00", "1.250,50", "500,00"])
+
+    def test_a_wrong_amount_is_refused_once_whatever_takes_the_focus_and_esc_gives_it_up(self):
+        program, page = self.open()
+        program.tool("6 from 49")
+        numbers = program.page("6 From 49")
+        program.tool("Bankroll")
+        wins = program.page("Bankroll")["text", "Winnings"]
+        for way in (lambda: keys("Tab"), lambda: click(page["text", "Largest Win"]),
+                    lambda: page.press("Calculator"), lambda: program.tool("6 from 49"),
+                    lambda: numbers.press("Generate Jackpot"), lambda: page.press("Close")):
+            click(wins)
+            keys(*"abc")
+            way()
+            program.answer("OK")
+            until(lambda: has(wins, "FOCUSED") and not Atspi.Text.get_text(wins, 0, -1), "the box")
+            program.page("Bankroll")  # it has stayed in front
+        self.assertEqual(numbers.drawn(), [])
+        keys(*"abc", "Escape")
+        program.page("6 From 49")
+        self.assertEqual(len(program.pages()), 1)
+        program.tool("Bankroll")
+        program.page("Bankroll").press("Calculator")
+        until(lambda: xdotool("search", "--onlyvisible", "--class", "galculator"), "the calculator")
+        xdotool("search", "--onlyvisible", "--class", "galculator", "windowkill")

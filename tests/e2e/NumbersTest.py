@@ -1,0 +1,60 @@
+"""The page "6 From 49", from the first start to the next one."""
+
+from desk import NUMBERS, Road, click, has, keys, until
+
+SYSTEMS = [6, 7, 8, 9, 10, 11, 12, 13, 22, 26]
+FRAME_MENUS = ["File: 6 from 49, Bankroll, Customize 6, Favorites, -, Exit",
+               "Quor Vanta : Quor Vanta Website", "Help: Contents, -, About"]
+
+
+class Numbers(Road):
+    def test_a_play_is_drawn_by_the_system_chosen_and_the_choice_outlives_the_run(self):
+        program = self.run_program()
+        self.assertEqual(program.menus(), FRAME_MENUS)
+        program.tool("6 from 49")
+        page = program.page("6 From 49")
+        self.assertEqual(page.lines, [
+            "panel: System -- 49",
+            "  radio button: 6 From 49 (checked), "
+            + ", ".join(f"{n} From 49" for n in SYSTEMS[1:]),
+            "push button: Close, Generate Jackpot", "status bar:", "  label: Status",
+            "panel: Board", "  label: " + NUMBERS])
+        self.assertEqual(program.menus(), [
+            "File: 6 From 49 (grey), Bankroll, Customize 6, Favorites, -, Close",
+            "Generator: Generate Jackpot, System 49: 6 From 49 (checked), "
+            + ", ".join(f"{n} From 49" for n in SYSTEMS[1:]),
+            *FRAME_MENUS[1:]])
+        self.check_order(page, ("radio button", ["6 From 49"]),
+                         ("push button", ["Close", "Generate Jackpot"]))
+        page.press("Generate Jackpot")
+        until(lambda: len(page.drawn()) == 6, "six numbers")
+        click(page["radio button", "13 From 49"])
+        self.assertEqual(len(page.drawn()), 6)
+        keys("F5")
+        until(lambda: len(page.drawn()) == 13, "13 numbers")
+        keys("Down", "F5")  # the option below
+        until(lambda: len(page.drawn()) == 22, "22 numbers")
+        program.choose("Generator", "System 49", "26 From 49")
+        until(lambda: has(page["radio button", "26 From 49"], "CHECKED"), "the system")
+        program.choose("Generator", "Generate Jackpot")
+        until(lambda: len(page.drawn()) == 26, "26 numbers")
+        play = page.drawn()
+        program.tool("Exit")
+        self.assertEqual(program.answer("No"), "Exiting Quor Vanta ")
+        keys("alt+F4")
+        program.answer("No")
+        program.tool("6 from 49")
+        self.assertEqual(program.page("6 From 49").window, page.window)
+        self.assertEqual(page.drawn(), play)
+        keys("Escape")
+        until(lambda: not program.pages(), "the page's end")
+        self.assertEqual(program.menus(), FRAME_MENUS)
+        program.end()
+        self.assertEqual(len(self.data()), 1 + 33 + 1)
+
+        program = self.run_program()
+        keys("alt+f", "Return")
+        page = program.page("6 From 49")
+        self.assertTrue(has(page["radio button", "26 From 49"], "CHECKED"))
+        self.assertIn("26 From 49 (checked)", program.menus()[1])
+        self.assertEqual(page.drawn(), [])

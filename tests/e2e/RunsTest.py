@@ -1,0 +1,57 @@
+"""How a run begins and ends: the splash, a second instance, a kill, failing reads and saves."""
+
+import os
+import subprocess
+import time
+
+from desk import APP, DATA, Page, Road, keys, until
+
+
+class Runs(Road):
+    def test_the_splash_stays_and_a_second_instance_changes_nothing(self):
+        begin = time.monotonic()
+        program = self.run_program(leave_splash=False)
+        splash = until(lambda: program.windows()[0], "the splash")
+        self.assertEqual(splash.get_role_name(), "dialog")
+        self.assertIn("label: Version 3.5, Quor Vanta , ", Page(splash).lines[-1])
+        program.frame()
+        self.assertGreaterEqual(time.monotonic() - begin, 3.5)
+        self.assertEqual(program.pages(), [])
+        log = os.stat(APP + "DebugLog.TXT")
+        self.assertEqual(subprocess.run([APP + "quorvanta"], timeout=5).returncode, 0)
+        self.assertEqual(os.stat(APP + "DebugLog.TXT"), log)
+        self.assertFalse(os.path.exists(DATA))
+
+    def test_a_start_after_a_kill_and_one_question_for_all_pages(self):
+        self.write_data("", "[Favorites]", "1.5;9;;;;;")
+        self.run_program().kill()
+        program = self.run_program()
+        for tool, title in (("6 from 49", "6 From 49"), ("Customize Six", "Customize 6"),
+                            ("Favorites", "Favorites")):
+            program.tool(tool)
+            program.page(title)
+        program.end()
+        self.assertEqual(self.data()[17], "1.5;9;;;;;")
+
+    def test_the_error_box_of_a_bad_line_outlasts_the_splash(self):
+        self.write_data("[Win/Loss]", "Win:", "Loss:5")
+        program = self.run_program(leave_splash=False)
+        program.box()
+        time.sleep(4)
+        keys("i")  # Ignore
+        program.frame()
+        self.assertEqual(program.kill(15), 0)
+        self.assertEqual(self.data()[29:31], ["Win:0", "Loss:5"])
+
+    def test_a_save_that_fails_asks_also_when_the_system_ends_the_run(self):
+        self.write_data("[Win/Loss]", "Loss:5")
+        program = self.run_program()
+        os.remove(DATA)
+        os.mkdir(DATA)
+        program.process.terminate()
+        self.assertEqual(program.box().lines[-1][-20:], "Abort, Retry, Ignore")
+        time.sleep(1)
+        os.rmdir(DATA)
+        keys("r")  # Retry
+        self.assertEqual(program.process.wait(10), 0)
+        self.assertEqual(self.data()[30], "Loss:5")

@@ -1,0 +1,149 @@
+// Whether every text has the room that it needs and stands where it should, at the scale and for
+// the user that the environment and the arguments tell.
+#include "bankroll/frmBankroll.h"
+#include "common/frmURL.h"
+#include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/QtDesktop.h"
+#include "desktop/qt/Windows.h"
+#include "frame/MDIForm1.h"
+#include "frame/frmAbout.h"
+#include "frame/frmSplash.h"
+#include "lists/frmCustomize6.h"
+#include "lists/frmFavorites.h"
+#include "numbers/frmMain.h"
+#include "tests/support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <QtWidgets>
+
+namespace {
+
+using namespace quorvanta;
+
+QWidget& windowOf(toolkit::Form& form) {
+    return *dynamic_cast<desktop_qt::FormPeer&>(*form.peer()).window();
+}
+
+// What a widget shows, and the room for it.
+struct Shown {
+    QString text;
+    QSize room;
+    int flags = Qt::TextShowMnemonic;
+};
+Shown shown(const QWidget& widget) {
+    const auto inner = [&](QStyle::SubElement part) {
+        QStyleOptionButton option;
+        option.initFrom(&widget);
+        return widget.style()->subElementRect(part, &option, &widget).width();
+    };
+    if (const auto* push = qobject_cast<const QPushButton*>(&widget))
+        return {push->text(), {inner(QStyle::SE_PushButtonContents), push->height() - 4}};
+    if (const auto* option = qobject_cast<const QRadioButton*>(&widget))
+        return {option->text(), {inner(QStyle::SE_RadioButtonContents), option->height()}};
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget))
+        return {group->title(), {group->width() - 16, group->height()}};
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return {label->text(), label->contentsRect().size(),
+                label->wordWrap() ? Qt::TextWordWrap : 0};
+    return {};
+}
+
+void checkGrid(const QTableView& grid) {
+    const auto& header = *grid.horizontalHeader();
+    const QFontMetrics bold([&] {
+        QFont font = header.font();
+        font.setBold(true); // more than it is shown in
+        return font;
+    }());
+    for (int c = 0; c < grid.model()->columnCount(); ++c) {
+        const QString name = grid.model()->headerData(c, Qt::Horizontal).toString();
+        EXPECT_LE(bold.horizontalAdvance(name) + 2, header.sectionSize(c)) << name.toStdString();
+        EXPECT_LE(dynamic_cast<const QAbstractItemView&>(grid)
+                      .sizeHintForIndex(grid.model()->index(0, c))
+                      .width(),
+                  grid.columnWidth(c));
+    }
+    EXPECT_LE(bold.height(), header.height());
+    EXPECT_LE(bold.height(), grid.rowHeight(0));
+    EXPECT_LT(grid.columnViewportPosition(0), grid.columnViewportPosition(1));
+}
+
+void checkWindow(QWidget& window) {
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.layoutDirection(), Qt::LeftToRight);
+    int texts = 0;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || !widget->parentWidget()->rect().intersects(widget->geometry()))
+            continue;
+        if (const auto* grid = qobject_cast<const QTableView*>(widget))
+            checkGrid(*grid);
+        const auto [text, room, flags] = shown(*widget);
+        if (text.isEmpty())
+            continue;
+        ++texts;
+        const QSize needed = QFontMetrics(widget->font())
+                                 .boundingRect(QRect({}, QSize(room.width(), 9999)), flags, text)
+                                 .size();
+        EXPECT_TRUE(needed.width() <= room.width() && needed.height() <= room.height())
+            << text.toStdString() << ": " << needed.width() << "x" << needed.height() << " in "
+            << room.width() << "x" << room.height();
+        // The upper of the splash's two titles stands a pixel above the edge.
+        EXPECT_TRUE(
+            widget->parentWidget()->rect().adjusted(0, -1, 0, 0).contains(widget->geometry()))
+            << text.toStdString() << " leaves what it stands in";
+    }
+    EXPECT_GT(texts, 3);
+}
+
+template <class Numbers>
+void checkBoard(Numbers& numbers) {
+    for (int n = 1; n < 49; ++n) {
+        const QPoint here = desktop_qt::widgetOf(numbers(n))->pos();
+        const QPoint next = desktop_qt::widgetOf(numbers(n + 1))->pos();
+        EXPECT_TRUE(n % 7 == 0 ? next.y() > here.y() : next.x() > here.x()) << n;
+    }
+}
+
+TEST(Fit, NoTextIsCutOffAndNothingIsMirrored) {
+    const tests::FakePlatform os;
+    ResetSharedState();
+    for (int n = 1; n <= 49; ++n)
+        gstrStammNumbers[1] += std::to_string(n) + ";";
+    gstrFavorites[1] = "44;45;46;47;48;49;";
+    gdblWin = 1234567890.12;
+    gdblLoss = 2 * gdblWin;
+    const std::initializer_list<toolkit::Form*> windows{&frmSplash::the(), &frmAbout::the(),
+                                                        &frmURL::the()};
+    for (toolkit::Form* form : windows) {
+        form->Show();
+        checkWindow(windowOf(*form));
+        form->Unload();
+    }
+    MDIForm1::the().Show();
+    frmBankroll::the().Show();
+    frmMain::the().Show();
+    checkBoard(frmMain::the().lbl1);
+    frmCustomize6::the().Show();
+    checkBoard(frmCustomize6::the().Label1);
+    checkBoard(frmCustomize6::the().cmdKey);
+    frmFavorites::the().Show();
+    checkBoard(frmFavorites::the().cmdKey);
+    for (int n = 1; n <= 49; ++n) {
+        frmCustomize6::the().cmdKey(n).FontBold = true;
+        frmFavorites::the().cmdKey(n).FontBold = true;
+    }
+    frmCustomize6::the().statBar1.Panels(1) = "Shift mode";
+    checkWindow(windowOf(MDIForm1::the()));
+    EXPECT_EQ(windowOf(MDIForm1::the()).findChildren<QMdiSubWindow*>().size(), 4);
+    toolkit::Form::dropAll();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    desktop_qt::QtDesktop desktop(argc, argv);
+    toolkit::install(&desktop);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
