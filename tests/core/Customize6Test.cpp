@@ -1,4 +1,3 @@
-#include "frame/MDIForm1.h"
 #include "tests/support/ListPages.h"
 
 namespace {
@@ -92,30 +91,6 @@ TEST_F(Customize6Test, ADrawUnderWayBearsWhateverTheUserDoes) {
     }
 }
 
-TEST_F(Customize6Test, DrawsStartedInsideOneAnotherEnd) {
-    fillRows(gstrStammNumbers, "12");
-    auto& page = open<frmCustomize6>();
-    int depth = 0;
-    desk.onDoEvents = [&] {
-        if (depth == 10)
-            return;
-        userClickRow(page.grd1, ++depth % 2 + 1);
-        page.mnuJackpotGenerator.click();
-    };
-    page.mnuJackpotGenerator.click();
-    EXPECT_EQ(depth, 10);
-    EXPECT_GE(drawn(page).size(), 6U);
-}
-
-TEST_F(Customize6Test, ARowOfAllNumbersIsSavedAlsoIfTheProgramEndsWithinADraw) {
-    MDIForm1::the().Show();
-    auto& page = open<frmCustomize6>();
-    page.mnuAllNumbers.click();
-    page.mnuFileToGrid.click();
-    desk.onDoEvents = [&] { MDIForm1::the().Unload(toolkit::FormControlMenu); };
-    EXPECT_THROW(userClick(page.cmdJackpot), ProcessEnded);
-    EXPECT_NE(os.files.content["/app/Quorvanta.txt"].find("1.1;2;3;4;5;6;7;8;"), std::string::npos);
-    EXPECT_TRUE(gstrStammNumbers[1].ends_with(";48;49;"));
 }
 
 } // namespace

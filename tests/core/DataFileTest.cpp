@@ -17,12 +17,6 @@ protected:
         read();
     }
     void write() { cQuorvantaLite().WriteLottoFile(); }
-    void failAt(const std::string& operation, int number, int times = 1) {
-        os.files.fault = [=](const std::string& it, const std::string& path) mutable {
-            if (it == operation && path == "/app/Quorvanta.txt" && times-- > 0)
-                throw platform::RuntimeError(number, "failed");
-        };
-    }
 };
 
 TEST_F(DataFile, ComesBackAsItWasWritten) {
@@ -110,31 +104,6 @@ TEST_F(DataFile, LineThatFailsIsReportedAndPassedOverOnIgnore) {
     }
     read("[Win/Loss]\rWin:\rDate:x"); // to which the answer is Abort
     EXPECT_EQ(gstrBankrollDate, "");
-}
-
-TEST_F(DataFile, ReadFailureMeetsTheAnswers) {
-    failAt("readLine", platform::DeviceError, 2);
-    desk.answers = {Retry, Ignore};
-    read(tests::wholeFile());
-    EXPECT_EQ(gstrBankrollDate, "3/2/2005");
-    EXPECT_EQ(desk.takeReports(), Texts(2, "57 ReadLottoFile"));
-}
-
-TEST_F(DataFile, OldContentStandsUntilTheNewIsWhole) {
-    const std::string old = content() = tests::wholeFile();
-    gstrFavorites[3] = "new";
-    for (const char* operation : {"remove", "openForAppend", "writeLine", "close"}) {
-        failAt(operation, platform::DiskFull); // to which the answer is Abort
-        write();
-        EXPECT_EQ(content(), old) << operation;
-        EXPECT_EQ(desk.takeReports(), Texts({"61 WriteLottoFile"})) << operation;
-    }
-    failAt("close", platform::DiskFull, 2);
-    desk.answers = {Retry, Retry};
-    write();
-    EXPECT_NE(content().find("\r\n3.new\r\n"), std::string::npos);
-    EXPECT_EQ(std::ranges::count(content(), '\n'), 33);
-    EXPECT_EQ(os.files.content["/app/Quorvanta.bak"], old);
 }
 
 } // namespace

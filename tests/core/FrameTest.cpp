@@ -123,10 +123,11 @@ TEST_F(FrameTest, TheSystemEndsTheRunAlsoUnderAnOpenQuestionAndWhileADrawYields)
     frame();
     press("customizesix");
     desk.onDoEvents = EndRunForSystem;
-    EXPECT_THROW(userClick(frmCustomize6::the().mnuAllNumbers);
-                 userClick(frmCustomize6::the().cmdReset);
-                 userClick(frmCustomize6::the().cmdJackpot), ProcessEnded);
-    EXPECT_TRUE(os.files.exists(kData));
+    userClick(frmCustomize6::the().mnuAllNumbers);
+    userClick(frmCustomize6::the().mnuFileToGrid);
+    EXPECT_THROW(userClick(frmCustomize6::the().cmdJackpot), ProcessEnded);
+    EXPECT_NE(os.files.content[kData].find("1.1;2;3;4;5;6;7;8;"), std::string::npos);
+    EXPECT_TRUE(gstrStammNumbers[1].ends_with(";48;49;"));
 }
 
 TEST_F(FrameTest, TheSystemDoesNotCutOffTheQuestionAboutASaveThatFails) {

@@ -1,3 +1,4 @@
+#include "bench/Fairness.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "tests/support/ListPages.h"
@@ -11,16 +12,17 @@ using namespace tests;
 
 class LottoTest : public ProgramTest {
 protected:
-    // Draws on the board of a page, and gives all numbers that are marked on it.
-    static Numbers draw(int count) {
-        const auto& board = frmMain::the().lbl1;
-        frmMain::the().Load();
+    toolkit::ControlArray<toolkit::Label>& board = frmMain::the().lbl1;
+
+    // Draws on the board, and gives all numbers that are marked on it.
+    Numbers draw(int count, cLotto::Action action = cLotto::Draw) {
         cLotto lotto;
-        lotto.prpControl = frmMain::the().lbl1.ref();
+        lotto.prpControl = board.ref();
         lotto.prpDrawNumber = count;
-        lotto.prpActionToDo = cLotto::Draw;
+        lotto.prpActionToDo = action;
         return numbersWhere([&](int n) { return board(n).ForeColor == toolkit::kRed; });
     }
+    LottoTest() { frmMain::the().Load(); } // draws mark the board of a loaded page
 };
 
 TEST_F(LottoTest, ADrawGoesFrom1To49TakesNoNumberTwiceAndAddsToOlderMarks) {
@@ -32,6 +34,26 @@ TEST_F(LottoTest, ADrawGoesFrom1To49TakesNoNumberTwiceAndAddsToOlderMarks) {
     desk.answers = {toolkit::Ignore, toolkit::Abort};
     EXPECT_EQ(draw(50).size(), 49U);
     EXPECT_EQ(desk.takeReports(), std::vector<std::string>(2, "9 cLotto.Lotto49"));
+}
+
+TEST_F(LottoTest, EverySetOfNumbersIsEquallyLikely) {
+    constexpr double kBound = 6; // standard deviations: a false alarm in less than 1 of a million
+    for (const auto& [action, pool] : {std::pair(cLotto::Draw, 49),
+                                       {cLotto::DrawFromEnabled, 49},
+                                       {cLotto::DrawFromEnabled, 20}}) {
+        for (int n = pool + 1; n <= kNumbers; ++n)
+            board(n).Enabled = false;
+        PlayTally tally(pool);
+        for (int i = 0; i < 50'000; ++i) {
+            const Numbers play = draw(kDrawn, action);
+            tally.add(play);
+            for (const int n : play)
+                board(n).ForeColor = toolkit::kBlack;
+        }
+        for (int n = 1; n <= pool; ++n)
+            EXPECT_LT(std::abs(tally.deviation(n)), kBound) << n << " of " << pool;
+        EXPECT_LT(std::abs(tally.pairDeviation()), kBound) << pool;
+    }
 }
 
 } // namespace

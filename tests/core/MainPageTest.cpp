@@ -52,16 +52,6 @@ TEST_F(MainPageTest, EverySystemMarksItsCountAndComesBackAtTheNextOpen) {
     }
 }
 
-TEST_F(MainPageTest, ChoosingTheChosenSystemAgainStoresNothing) {
-    frmMain& page = open();
-    const int saves = os.settings.saves;
-    userClick(page.mnuSystemPlay(0));
-    userClick(page.opt1(0));
-    page.opt1(0).Value = true;
-    EXPECT_EQ(os.settings.saves, saves);
-    EXPECT_EQ(chosen(page), "o0m0");
-}
-
 TEST_F(MainPageTest, ABadStoredSystemIsReportedAndLeavesNoneChosen) {
     for (const char* stored : {"17", "-1", "abc", ""})
         for (const auto answer : {toolkit::Ignore, toolkit::Abort}) {

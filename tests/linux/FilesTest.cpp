@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -139,22 +138,6 @@ TEST_F(Files, ReadOnlyDirectoryKeepsTheOldFileOnAbortAndTakesTheNewBehindItOnIgn
     EXPECT_TRUE(dataFile().starts_with(tests::wholeFile()));
     quorvanta::cQuorvantaLite().ReadLottoFile();
     EXPECT_EQ(quorvanta::gstrFavorites[1], "new");
-}
-
-TEST_F(Files, FullDiskLeavesTheOldFileAndARetryAfterMakingRoomSaves) {
-    if (::mount("none", files.directory.c_str(), "tmpfs", 0, "size=16k") != 0)
-        GTEST_SKIP() << "mounting a small disk is not permitted here";
-    files.create("Quorvanta.txt", tests::wholeFile());
-    files.create("filler", std::string(1 << 16, 'x'));
-    boxes.onBox = [&] {
-        EXPECT_EQ(dataFile(), tests::wholeFile());
-        fs::remove(files.path("filler"));
-        boxes.answers = {toolkit::Retry};
-    };
-    saveRow("new");
-    EXPECT_EQ(boxes.takeReports(), Texts({"61 WriteLottoFile"}));
-    EXPECT_NE(dataFile().find("\r\n1.new\r\n"), std::string::npos);
-    ::umount2(files.directory.c_str(), MNT_DETACH);
 }
 
 } // namespace

@@ -100,11 +100,10 @@ struct FakeFiles : platform::Files {
     // A file being appended to, or being replaced.
     struct Output : platform::OutputFile, platform::Replacement {
         FakeFiles& files;
-        std::string path, backup, text;
+        std::string path, text;
         bool fromOld = true;
 
-        Output(FakeFiles& f, const std::string& p, const std::string& b = "")
-            : files(f), path(p), backup(b) {}
+        Output(FakeFiles& f, const std::string& p) : files(f), path(p) {}
         void discardOld() override {
             files.check("remove", path);
             fromOld = false;
@@ -121,8 +120,6 @@ struct FakeFiles : platform::Files {
         }
         void close() override {
             files.check("close", path);
-            if (!backup.empty() && files.exists(path))
-                files.content[backup] = files.content[path];
             files.content[path] = text;
         }
     };
@@ -150,8 +147,8 @@ struct FakeFiles : platform::Files {
         return file;
     }
     std::unique_ptr<platform::Replacement> replace(const std::string& path,
-                                                   const std::string& backup) override {
-        return std::make_unique<Output>(*this, path, backup);
+                                                   const std::string& /*backup*/) override {
+        return std::make_unique<Output>(*this, path);
     }
 };
 

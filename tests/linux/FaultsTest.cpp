@@ -1,5 +1,8 @@
-// Saves the data file with a fault at each system call in turn, and reads it back. The linker puts
-// the functions __wrap_... below in the place of the system calls of the program's code.
+// Starts and saves with a fault at each system call in turn. The linker puts the functions
+// __wrap_... below in the place of the system calls of the program's code.
+#include "common/ErrorReport.h"
+#include "frame/MDIForm1.h"
+#include "frame/MainCode_ZW.h"
 #include "storage/cQuorvantaLite.h"
 #include "tests/support/DataFile.h"
 #include "tests/support/RealFiles.h"
@@ -90,7 +93,8 @@ namespace {
 
 using namespace quorvanta;
 
-const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak", kSpare = kFile + ".spare";
+const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak", kSpare = kFile + ".spare",
+                  kLabel = " WriteLottoFile";
 
 struct Start {
     const char* name;
@@ -101,14 +105,14 @@ void PrintTo(const Start& start, std::ostream* out) {
     *out << start.name;
 }
 
-// A directory as the start has it, new values to be saved, and a save under a fault.
-struct Save {
+// A directory as the start has it, new values to be saved, and a start or a save under a fault.
+struct Trial {
     const Start& start;
     tests::RealFilesPlatform system;
     tests::ErrorBoxes boxes;
     tests::StoredValues old, fresh;
 
-    explicit Save(const Start& it) : start(it) {
+    explicit Trial(const Start& it) : start(it) {
         fault = {.refused = start.refused};
         for (const auto& name : start.files)
             system.files.create(name, tests::wholeFile());
@@ -117,14 +121,32 @@ struct Save {
         std::get<1>(fresh)[10] = "1;2;";
         std::get<6>(fresh) = "1/2/2003";
     }
-    // False if the save was over before the fault's position.
-    bool go(int position = 0, int error = 0) {
-        tests::stored() = fresh;
+    // False if it was over before the fault's position.
+    static bool underFault(void (*work)(), int position, int error) {
         fault.position = position;
         fault.error = error;
-        cQuorvantaLite().WriteLottoFile();
+        work();
         fault.position = 0;
         return fault.calls >= position;
+    }
+    bool go(int position = 0, int error = 0) const {
+        tests::stored() = fresh;
+        return underFault([] { cQuorvantaLite().WriteLottoFile(); }, position, error);
+    }
+    static bool begin(int position = 0, int error = 0) {
+        toolkit::Form::dropAll();
+        ResetSharedState();
+        StartNewDebugLog();
+        return underFault(Main, position, error);
+    }
+    // Whether the work ended before it was killed at the position.
+    static bool survives(int position, const std::function<bool(int)>& work) {
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(work(position) ? 1 : 0);
+        int status = 1;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        return status == 0;
     }
     static tests::StoredValues read() {
         ResetSharedState();
@@ -142,13 +164,10 @@ struct SaveFaults : testing::TestWithParam<Start> {};
 
 TEST_P(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
     int position = 0;
-    for (int status = 1; status != 0;) {
+    for (bool done = false; !done;) {
         SCOPED_TRACE("call " + std::to_string(++position));
-        Save save(GetParam());
-        const pid_t child = ::fork();
-        if (child == 0)
-            ::_exit(save.go(position) ? 1 : 0);
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        Trial save(GetParam());
+        done = save.survives(position, [&](int at) { return save.go(at); });
         save.expectOldOrNew();
         save.go();
         EXPECT_EQ(save.read(), save.fresh);
@@ -159,12 +178,13 @@ TEST_P(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
 
 // Also behind an old content that can't be deleted, where the user ignores that.
 TEST_P(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
-    const auto saveAtEachCall = [&](bool deletable, int answer, int error) {
+    const auto saveAtEachCall = [&](bool deletable, int answer, int error,
+                                    const std::string& number) {
         int position = 0;
         for (bool reached = true; reached;) {
-            SCOPED_TRACE("call " + std::to_string(++position) + ", error " + std::to_string(error) +
-                         ", answer " + std::to_string(answer) + (deletable ? "" : ", appending"));
-            Save save(GetParam());
+            SCOPED_TRACE("call " + std::to_string(++position) + ", error " + number + ", answer " +
+                         std::to_string(answer) + (deletable ? "" : ", appending"));
+            Trial save(GetParam());
             save.boxes.last = answer;
             if (!deletable) {
                 save.boxes.answers = {toolkit::Ignore, answer};
@@ -172,20 +192,25 @@ TEST_P(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
                 fault.refused.insert("faccessat");
             }
             reached = save.go(position, error);
+            const auto reports = save.boxes.takeReports();
+            for (const auto& it : reports)
+                EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel ||
+                            (!deletable && it == "70" + kLabel))
+                    << it;
             save.expectOldOrNew();
             if (!deletable) {
                 EXPECT_TRUE(save.system.files.content(kFile).starts_with(tests::wholeFile()));
-            } else if (save.boxes.boxes.empty() || answer == toolkit::Retry) {
+            } else if (reports.empty() || answer == toolkit::Retry) {
                 EXPECT_EQ(save.read(), save.fresh);
             }
         }
         EXPECT_GT(position, 5);
     };
     for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore})
-        for (const int error : {ENOSPC, EIO, EACCES})
+        for (const auto& [error, number] : {std::pair(ENOSPC, "61"), {EIO, "57"}, {EACCES, "70"}})
             for (const bool deletable : {true, false})
                 if (deletable || GetParam().files.contains(kFile))
-                    saveAtEachCall(deletable, answer, error);
+                    saveAtEachCall(deletable, answer, error, number);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -195,5 +220,54 @@ INSTANTIATE_TEST_SUITE_P(
                     Start{"file lost", {kBackup, kSpare}},
                     Start{"names can't change", {kFile, kBackup, kSpare}, {"renameat2"}},
                     Start{"no links either", {kFile, kBackup}, {"renameat2", "link"}}));
+
+// What can't be read is told, and the end of the run still leaves it in the backup. The log is lost
+// without a word.
+TEST(StartFaults, NeverHarmTheFileAndOnlyWhatWasToldIsMissingFromTheRun) {
+    const Start later{"later run", {kFile, kBackup}};
+    for (const auto& [error, number] : {std::pair(EIO, "57"), {EACCES, "70"}, {ENOMEM, "7"}})
+        for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore}) {
+            std::vector<std::string> reports;
+            int position = 0;
+            for (bool reached = true; reached;) {
+                SCOPED_TRACE("call " + std::to_string(++position) + ", error " + number +
+                             ", answer " + std::to_string(answer));
+                Trial run(later);
+                run.boxes.last = answer;
+                reached = run.begin(position, error);
+                const auto told = run.boxes.takeReports();
+                EXPECT_EQ(run.system.files.content(kFile), tests::wholeFile());
+                EXPECT_TRUE(tests::stored() == run.old ||
+                            (!told.empty() && answer != toolkit::Retry));
+                if (told.empty())
+                    continue;
+                reports.insert(reports.end(), told.begin(), told.end());
+                MDIForm1::the().Show();
+                EXPECT_THROW(MDIForm1::the().Unload(toolkit::AppWindows), tests::ProcessEnded);
+                EXPECT_EQ(run.system.files.content(kBackup), tests::wholeFile());
+            }
+            const auto label = [](const std::string& of) { return of + " ReadLottoFile"; };
+            EXPECT_EQ(reports,
+                      (std::vector{label(number), label("75"), label(number), label(number)}))
+                << "to open the file, to look at it, to read it and to meet its end";
+        }
+    toolkit::Form::dropAll();
+}
+
+TEST(StartFaults, KilledAnywhereLeaveTheFileToTheNextStart) {
+    const Start second{"second run", {kFile}};
+    int position = 0;
+    for (bool done = false; !done;) {
+        SCOPED_TRACE("call " + std::to_string(++position));
+        Trial run(second);
+        done = run.survives(position, [&](int at) { return run.begin(at); });
+        EXPECT_EQ(run.system.files.content(kFile), tests::wholeFile());
+        run.begin();
+        EXPECT_EQ(tests::stored(), run.old);
+        EXPECT_TRUE(run.boxes.boxes.empty());
+    }
+    EXPECT_GT(position, 100);
+    toolkit::Form::dropAll();
+}
 
 } // namespace
