@@ -9,7 +9,8 @@ class Settings {
 public:
     virtual ~Settings() = default;
 
-    // The stored value, or `fallback` if the store holds none under these names.
+    // The stored value, or `fallback` if the store holds none under these names. Raises PathAccess
+    // where the store can't be read.
     virtual std::string get(const std::string& application, const std::string& section,
                             const std::string& key, const std::string& fallback) const = 0;
 

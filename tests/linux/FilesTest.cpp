@@ -1,9 +1,11 @@
+#include "platform/linux/LinuxSettings.h"
 #include "storage/cQuorvantaLite.h"
 #include "tests/support/DataFile.h"
 #include "tests/support/RealFiles.h"
 
 #include <gtest/gtest.h>
 
+#include <stdlib.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -138,6 +140,19 @@ TEST_F(Files, ReadOnlyDirectoryKeepsTheOldFileOnAbortAndTakesTheNewBehindItOnIgn
     EXPECT_TRUE(dataFile().starts_with(tests::wholeFile()));
     quorvanta::cQuorvantaLite().ReadLottoFile();
     EXPECT_EQ(quorvanta::gstrFavorites[1], "new");
+}
+
+TEST_F(Files, SettingsThatCanNotBeReadAreReportedAndNotTakenForMissingOnes) {
+    ::setenv("XDG_CONFIG_HOME", files.directory.c_str(), 1);
+    platform::LinuxSettings settings;
+    const auto get = [&] { return settings.get("Maker", "Title ", "system", "0"); };
+    fs::create_directories(files.path("Maker/quorvanta.ini"));
+    EXPECT_EQ(numberOf(get), 75);
+    EXPECT_EQ(numberOf([&] { settings.save("Maker", "Title ", "system", "3"); }), 75);
+    fs::remove(files.path("Maker/quorvanta.ini"));
+    EXPECT_EQ(get(), "0");
+    settings.save("Maker", "Title ", "system", "3");
+    EXPECT_EQ(get(), "3");
 }
 
 } // namespace

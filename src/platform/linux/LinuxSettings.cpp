@@ -2,6 +2,7 @@
 
 #include "platform/RuntimeError.h"
 
+#include <QFileInfo>
 #include <QSettings>
 
 namespace platform {
@@ -17,12 +18,21 @@ QString keyPath(const std::string& section, const std::string& key) {
     return text(section).trimmed() + QLatin1Char('/') + text(key);
 }
 
+// QSettings takes a file that it can't read for one without settings, and the default that it then
+// gives would be saved over what stands there.
+bool unread(const QSettings& store) {
+    return store.status() == QSettings::AccessError ||
+           (store.allKeys().isEmpty() && QFileInfo(store.fileName()).size() > 0);
+}
+
 } // namespace
 
 std::string LinuxSettings::get(const std::string& application, const std::string& section,
                                const std::string& key, const std::string& fallback) const {
     const QSettings store(QSettings::IniFormat, QSettings::UserScope, text(application),
                           QStringLiteral("quorvanta"));
+    if (unread(store))
+        throw RuntimeError(PathAccess);
     return store.value(keyPath(section, key), text(fallback)).toString().toStdString();
 }
 
