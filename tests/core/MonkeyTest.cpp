@@ -1,7 +1,9 @@
-// Random events on the Customize 6 page, with what must always hold checked after each. The count
-// of events and the seed come from QUORVANTA_MONKEY_EVENTS and QUORVANTA_MONKEY_SEED.
+// Random events on all of the program's forms, with what must always hold checked after each. The
+// count of events and the seed come from QUORVANTA_MONKEY_EVENTS and QUORVANTA_MONKEY_SEED.
 #include "frame/MDIForm1.h"
 #include "numbers/frmMain.h"
+#include "storage/cQuorvantaLite.h"
+#include "tests/support/DataFile.h"
 #include "tests/support/ListPages.h"
 
 #include <cstdlib>
@@ -10,17 +12,35 @@ namespace {
 
 using namespace quorvanta;
 using namespace tests;
+using toolkit::Control;
 
 int fromEnvironment(const char* name, int fallback) {
     const char* const text = std::getenv(name);
     return text ? std::atoi(text) : fallback;
 }
 
+// What the user can work on: the controls themselves, those inside frames, and the menu entries.
+void collect(const toolkit::Container& from, std::vector<Control*>& controls) {
+    for (Control* const control : from.controls()) {
+        if (const auto* const inner = dynamic_cast<const toolkit::Container*>(control))
+            collect(*inner, controls);
+        else if (!dynamic_cast<toolkit::Label*>(control) || control->Click)
+            controls.push_back(control);
+    }
+}
+void collect(const std::vector<toolkit::Menu*>& menus, std::vector<Control*>& entries) {
+    for (toolkit::Menu* const menu : menus) {
+        collect(menu->entries(), entries);
+        if (menu->entries().empty())
+            entries.push_back(menu);
+    }
+}
+
 class MonkeyTest : public ProgramTest {
 protected:
     static constexpr int kMostYields = 200'000; // in one event; a draw needs some hundreds
     std::mt19937 dice{static_cast<unsigned>(fromEnvironment("QUORVANTA_MONKEY_SEED", 1))};
-    int depth = 0, yields = 0, nested = 0, ended = 0, draws = 0;
+    int depth = 0, yields = 0, nested = 0, ended = 0, draws = 0, filed = 0;
 
     int roll(int below) { return static_cast<int>(dice() % static_cast<unsigned>(below)); }
     template <class T>
@@ -29,11 +49,14 @@ protected:
     }
 
     MonkeyTest() {
-        desk.onBox = [this] { desk.answers = {3 + roll(5)}; };
+        desk.onBox = [this] {
+            const bool exit = desk.boxes.back().text.starts_with("Exiting");
+            desk.answers = {exit && roll(10) != 0 ? toolkit::No : 1 + roll(7)};
+        };
         desk.onDoEvents = [this] {
             if (++yields > kMostYields)
                 throw std::runtime_error("a draw doesn't end");
-            if (depth < 10 && roll(60) == 0) {
+            if (depth < 10 && roll(20) == 0) {
                 ++nested;
                 event();
             }
@@ -42,93 +65,160 @@ protected:
 
     void event() {
         ++depth;
-        if (auto* const page = frmCustomize6::ifLoaded()) {
-            onPage(*page);
-        } else {
-            editFile();
-            mnuCustomize_Click();
-        }
+        toolkit::Form& form = toolkit::Forms(roll(toolkit::Forms.Count()));
+        const auto keep = form.shared_from_this();
+        auto* const list = dynamic_cast<ListPage*>(&form);
+        const int what = roll(60);
+        if (what == 0)
+            form.Unload(toolkit::FormControlMenu);
+        else if (what < 8)
+            userKey(form, any<int>({kCtrlKey, 13, 27, 65, 116}), roll(3) == 0 ? roll(8) : 2);
+        else if (what < 20)
+            onMenu(form);
+        else if (what < 26 && list)
+            file(*list);
+        else if (what < 32 && list)
+            draw(form);
+        else
+            onControl(form);
         --depth;
     }
 
-    // Now and then the first free row becomes one that only a file edited by hand can bring.
-    void editFile() {
-        const auto free = std::find_if(
-            gstrStammNumbers.begin() + 1, gstrStammNumbers.end(),
-            [](const std::string& text) { return text.empty() || text.front() == ';'; });
-        if (free != gstrStammNumbers.end() && roll(4) == 0)
-            *free = any<std::string>(
-                {"1;2;3;", "4;4;4;5;", "abc;7;8;", "50;-1;9;9", "007; ;3;", " ;;;", "8;"});
+    void onMenu(const toolkit::Form& form) {
+        std::vector<Control*> entries;
+        collect(form.menuBar(), entries);
+        if (!entries.empty())
+            any(entries)->click();
     }
 
-    void onPage(frmCustomize6& page) {
-        using Event = std::function<void()>;
-        const Event key = [&] { userClick(page.cmdKey(1 + roll(49))); };
-        const Event row = [&] { userClickRow(page.grd1, roll(11)); };
-        const Event twice = [&] { userDoubleClickRow(page.grd1, roll(11)); };
-        const Event ctrl = [&] { userKey(page, kCtrlKey, roll(3) == 0 ? roll(8) : 2); };
-        const Event keypad = [&] { userClick(roll(4) == 0 ? page.cmdAll : page.cmdReset); };
-        const Event remove = [&] { page.mnuDeleteGridRow.click(); };
-        const Event reset = [&] { page.mnuReset.click(); };
-        const Event copy = [&] { userClick(page.cmdCopy); };
-        const Event file = [&] {
-            for (int n = 0; n < 7; ++n)
-                key();
-            copy();
-        };
-        const Event jackpot = [&] { draw(page); };
-        const Event close = [&] { page.mnuClose.click(); };
-        const Event end = [] { MDIForm1::the().Unload(toolkit::FormControlMenu); };
-        const Event rare =
-            any<Event>({close, end, mnuMainForm_Click, mnuFavorites_Click, mnuCustomize_Click});
-        any<Event>({key, key, key, row, row, row, ctrl, ctrl, copy, file, jackpot, jackpot, twice,
-                    keypad, remove, reset, rare})();
+    // As often one of an array, such as a key, as another one.
+    void onControl(const toolkit::Form& form) {
+        std::vector<Control*> controls;
+        collect(form, controls);
+        const bool alone = roll(2) == 0;
+        std::erase_if(controls,
+                      [&](const Control* it) { return alone == (it->array() != nullptr); });
+        if (controls.empty())
+            return;
+        Control& control = *any(controls);
+        if (auto* const grid = dynamic_cast<toolkit::MSFlexGrid*>(&control)) {
+            roll(4) == 0 ? userDoubleClickRow(*grid, roll(11)) : userClickRow(*grid, roll(11));
+        } else if (auto* const bar = dynamic_cast<toolkit::Toolbar*>(&control)) {
+            bar->clickButton(any(bar->Buttons));
+        } else if (auto* const timer = dynamic_cast<toolkit::Timer*>(&control)) {
+            if (timer->Enabled)
+                timer->fire();
+        } else {
+            userClick(control);
+            type(dynamic_cast<toolkit::TextBox*>(&control));
+        }
     }
 
-    void draw(frmCustomize6& page) {
-        const auto keep = page.shared_from_this();
+    void type(toolkit::TextBox* box) {
+        if (!box)
+            return;
+        box->Text =
+            any<std::string>({"", "12", "-1,234.56", "1e300", "abc", "7/5/2005", " ", "1..2"});
+        int key = 32 + roll(90);
+        box->keyPress(key);
+    }
+
+    void file(ListPage& page) {
+        for (int n = 0; n < 7; ++n)
+            userClick(page.cmdKey(1 + roll(49)));
+        userClick(page.cmdCopy);
+        ++filed;
+    }
+
+    void draw(toolkit::Form& form) {
+        auto* const page = dynamic_cast<frmCustomize6*>(&form);
+        if (!page)
+            return;
         const int before = nested;
-        page.mnuJackpotGenerator.click();
+        page->mnuJackpotGenerator.click();
         ++draws;
         // Nested draws may have left their marks together.
         EXPECT_TRUE(nested != before ||
-                    drawn(page).size() == std::min<std::size_t>(6, pool(page).size()));
+                    drawn(*page).size() == std::min<std::size_t>(6, pool(*page).size()));
+    }
+
+    // All that is stored, but for the free cells at a row's end: the end of a run saves first and
+    // then unloads the pages, which store rows of all their cells.
+    static StoredValues storedNumbers() {
+        StoredValues values = stored();
+        for (RowTexts* const rows : {&std::get<0>(values), &std::get<1>(values)})
+            for (std::string& row : *rows)
+                row.erase(row.find_last_not_of(';') + 1);
+        return values;
+    }
+
+    // The run ends, somebody edits the file, and the next run begins. What was saved comes back.
+    void startAgain() {
+        toolkit::Form::dropAll();
+        const StoredValues saved = storedNumbers();
+        ResetSharedState();
+        gintLanguage = 1;
+        cQuorvantaLite().ReadLottoFile();
+        ASSERT_EQ(storedNumbers(), saved);
+        for (RowTexts* const rows : {&gstrStammNumbers, &gstrFavorites}) {
+            const auto free = std::find_if(rows->begin() + 1, rows->end(), [](const auto& text) {
+                return text.empty() || text.front() == ';';
+            });
+            if (free != rows->end())
+                *free = any<std::string>(
+                    {"1;2;3;", "4;4;4;5;", "abc;7;8;", "50;-1;9;9;", "007; ;3;", " ;;;", "8;", ""});
+        }
+        MDIForm1::the().Show();
+        ++ended;
     }
 
     // The stored rows are those of the grid, and the filled ones stand at the top.
-    void check() {
-        const auto* const page = frmCustomize6::ifLoaded();
+    static void checkRows(const ListPage* page, const RowTexts& rows, int columns) {
         bool free = false;
-        for (int r = 1; page && r <= 10; ++r) {
-            std::string cells, stored = gstrStammNumbers.at(static_cast<std::size_t>(r));
-            for (int c = 1; c <= 49; ++c)
+        for (int r = 1; page && r <= kRows; ++r) {
+            std::string cells, stored = rows.at(static_cast<std::size_t>(r));
+            for (int c = 1; c <= columns; ++c)
                 cells += page->grd1.text(r, c) + ";";
-            stored.erase(stored.find_last_of(';') + 1); // a cell without its end is no cell
-            while (std::ranges::count(stored, ';') < 49)
+            while (std::ranges::count(stored, ';') < columns)
                 stored += ';';
             ASSERT_EQ(cells, stored) << r;
             ASSERT_TRUE(!free || cells.front() == ';') << r;
             free = cells.front() == ';';
         }
     }
+
+    static void check() {
+        checkRows(frmCustomize6::ifLoaded(), gstrStammNumbers, 49);
+        checkRows(frmFavorites::ifLoaded(), gstrFavorites, 6);
+        if (const auto* const page = frmFavorites::ifLoaded()) {
+            ASSERT_LE(picked(*page).size(), 6U);
+        }
+        if (const auto* const page = frmMain::ifLoaded()) {
+            const auto red =
+                numbersWhere([&](int n) { return page->lbl1(n).ForeColor == toolkit::kRed; });
+            ASSERT_LE(red.size(), 26U);
+            ASSERT_EQ(
+                numbersWhere([&](int n) { return n <= 10 && page->opt1(n - 1).Value; }).size(), 1U);
+        }
+    }
 };
 
 TEST_F(MonkeyTest, WhatMustAlwaysHoldDoesWhateverIsDone) {
-    const int events = fromEnvironment("QUORVANTA_MONKEY_EVENTS", 5000);
+    const int events = fromEnvironment("QUORVANTA_MONKEY_EVENTS", 10'000);
     MDIForm1::the().Show();
     for (int i = 0; i < events && !HasFatalFailure(); ++i) {
+        SCOPED_TRACE("event " + std::to_string(i));
         yields = depth = 0;
         try {
             event();
-        } catch (const ProcessEnded&) { // the next run begins
-            toolkit::Form::dropAll();
-            MDIForm1::the().Show();
-            ++ended;
+        } catch (const ProcessEnded&) {
+            startAgain();
         }
         desk.boxes.clear();
         check();
     }
-    EXPECT_TRUE(draws > events / 20 && nested > events / 200 && ended > 0);
+    EXPECT_TRUE(draws > events / 100 && filed > events / 100 && nested > events / 300 && ended > 0)
+        << draws << " draws, " << filed << " filed, " << nested << " nested, " << ended << " ended";
 }
 
 } // namespace
