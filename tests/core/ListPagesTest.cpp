@@ -23,8 +23,15 @@ using Pages = ::testing::Types<frmCustomize6, frmFavorites>;
 TYPED_TEST_SUITE(ListPagesTest, Pages);
 using FavoritesTest = ProgramTest;
 
-TYPED_TEST(ListPagesTest, WithoutAFreeRowTheLimitCountsNotTheNumberOfPicks) {
-    userClick(this->open("1234567812").cmdCopy);
+TYPED_TEST(ListPagesTest, TheFirstRowWithoutAFirstNumberIsFilledAndThenTheLimitCounts) {
+    fillRows(this->rows, "12345678");
+    this->rows[9] = "8;"; // of an edited file
+    auto& page = tests::open<TypeParam>();
+    pick(page, this->kCustomize ? Numbers{1, 2, 3, 4, 5, 6, 7} : Numbers{1, 2});
+    userClick(page.cmdCopy);
+    EXPECT_TRUE(this->rows[9].starts_with("8;;") && this->rows[10].starts_with("1;2;"));
+    EXPECT_TRUE(this->desk.boxes.empty());
+    userClick(page.cmdCopy); // with too few numbers picked
     EXPECT_TRUE(this->desk.takeBoxes().at(0).starts_with(
         "You have reached the limit for your " + std::string(this->kCustomize ? "C" : "F")));
 }
