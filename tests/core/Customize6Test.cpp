@@ -91,6 +91,4 @@ TEST_F(Customize6Test, ADrawUnderWayBearsWhateverTheUserDoes) {
     }
 }
 
-}
-
 } // namespace
