@@ -34,6 +34,7 @@ TEST_F(ErrorReportTest, TheBoxComesAlsoWhenTheLogIsLost) {
         };
         desk.answers = {toolkit::Ignore};
         EXPECT_EQ(ShowErrorBox(-5, "Odd", "some.Routine"), Answer::Ignore);
+        EXPECT_EQ(desk.boxes.at(0).title, "Quor Vanta ");
         EXPECT_EQ(desk.takeBoxes(),
                   std::vector<std::string>{"An error has occured: -5\r\nOdd\r\nsome.Routine"});
     }

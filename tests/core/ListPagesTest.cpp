@@ -25,15 +25,19 @@ using FavoritesTest = ProgramTest;
 
 TYPED_TEST(ListPagesTest, TheFirstRowWithoutAFirstNumberIsFilledAndThenTheLimitCounts) {
     fillRows(this->rows, "12345678");
-    this->rows[9] = "8;"; // of an edited file
+    const std::string odd = this->kCustomize ? "8;9;" : "8;"; // of an edited file
+    this->rows[9] = odd;
     auto& page = tests::open<TypeParam>();
     pick(page, this->kCustomize ? Numbers{1, 2, 3, 4, 5, 6, 7} : Numbers{1, 2});
     userClick(page.cmdCopy);
-    EXPECT_TRUE(this->rows[9].starts_with("8;;") && this->rows[10].starts_with("1;2;"));
+    EXPECT_TRUE(this->rows[9].starts_with(odd + ";") && this->rows[10].starts_with("1;2;"));
     EXPECT_TRUE(this->desk.boxes.empty());
     userClick(page.cmdCopy); // with too few numbers picked
     EXPECT_TRUE(this->desk.takeBoxes().at(0).starts_with(
         "You have reached the limit for your " + std::string(this->kCustomize ? "C" : "F")));
+    userDoubleClickRow(page.grd1, 9);
+    EXPECT_TRUE(this->desk.takeBoxes().at(0).starts_with(this->kCustomize ? "You have either"
+                                                                          : "Do you want"));
 }
 
 TYPED_TEST(ListPagesTest, OnlyYesDeletesAndEachWayOutLeavesItsOwnCurrentRow) {

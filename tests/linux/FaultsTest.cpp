@@ -216,9 +216,10 @@ TEST_P(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
         EXPECT_GT(position, 5);
     };
     for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore})
-        for (const auto& [error, number] : {std::pair(ENOSPC, "61"), {EIO, "57"}, {EACCES, "70"}})
+        for (const auto& [error, number] :
+             {std::pair(ENOSPC, "61"), {EIO, "57"}, {EACCES, "70"}, {ENOENT, "76"}})
             for (const bool deletable : {true, false})
-                if (deletable || GetParam().files.contains(kFile))
+                if (deletable || (error != ENOENT && GetParam().files.contains(kFile)))
                     saveAtEachCall(deletable, answer, error, number);
 }
 
