@@ -38,7 +38,7 @@ class Runs(Road):
         program = self.run_program(leave_splash=False)
         program.box()
         time.sleep(4)
-        keys("i")  # Ignore
+        keys("Escape", "i")  # Esc is no answer, Ignore is
         program.frame()
         self.assertEqual(program.kill(15), 0)
         self.assertEqual(self.data()[29:31], ["Win:0", "Loss:5"])
