@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyle>
@@ -19,6 +20,12 @@ public:
     using QLineEdit::QLineEdit;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->modifiers().testFlag(Qt::AltModifier))
+            event->ignore(); // a menu's letter that no menu has is no text
+        else
+            QLineEdit::keyPressEvent(event);
+    }
     // Characters that an input method or a dead key composes are typed like any others.
     void inputMethodEvent(QInputMethodEvent* event) override {
         QString typed;
