@@ -1,16 +1,18 @@
 // The start of the program against that of a bare window, in turns; a start that is refused against
-// one that isn't; memory with a page open; processor time while idle. The programs are copied into
-// a directory of their own and watched from outside.
-// Usage: start_bench program bare-window [turns]
+// one that isn't; memory with a page open; processor time while idle. Both are copied into a
+// directory of their own and watched from outside. Other programs are measured beside them.
+// Usage: start_bench program bare-window [turns [other-program...]]
 #include "bench/Figures.h"
 #include "bench/Watched.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <memory>
 #include <stdexcept>
 #include <thread>
+#include <vector>
 
 namespace {
 
@@ -78,18 +80,21 @@ void click(std::uint32_t window, int x, int y) {
 struct Page {
     const char* name;
     int button; // where its button lies on the toolbar, in points from the left
+    int white;  // points of its board, its grid or its boxes, which tell that it is there
 };
-constexpr Page kPages[] = {{"6 From 49", 20}, {"Customize 6", 64}};
+constexpr Page kPages[] = {{"6 From 49", 20, 49 * 30 * 25},
+                           {"Customize 6", 64, 49 * 30 * 25},
+                           {"Favorites", 104, 200 * 100},
+                           {"Bankroll", 144, 4 * 80 * 10}};
 
-// The frame with a page open. The 49 white labels of the page's board tell that it is there.
+// The frame with a page open.
 std::unique_ptr<Watched> withPageOpen(const std::string& program, const Page& page) {
-    constexpr int kBoard = 49 * 30 * 25;
     auto it = std::make_unique<Watched>(program);
     const auto splash = it->waitUntilShown();
     const auto frame = it->waitUntilShown(splash);
     click(frame, page.button, 45);
     it->waitUntilQuiet();
-    if (Watched::whitePoints(frame) < kBoard)
+    if (Watched::whitePoints(frame) < page.white)
         throw std::runtime_error("the page didn't open");
     return it;
 }
@@ -141,11 +146,30 @@ bool idle(const std::string& program, const Page& page) {
                  it->processorTime() - before, 0);
 }
 
+// Programs of a like size, for comparison.
+void others(const std::vector<std::string>& programs, int turns) {
+    for (const std::string& program : programs) {
+        Figures processor, wall, memory;
+        for (int i = -1; i < turns; ++i) {
+            Watched it(program);
+            it.waitUntilShown();
+            if (i < 0)
+                continue; // the first read of its files from the disk
+            processor.add(it.processorTime());
+            wall.add(it.wallTime());
+            memory.add(it.resident());
+        }
+        tell(program + ", processor time", processor, "ms");
+        tell(program + ", wall time", wall, "ms");
+        tell(program + ", resident memory", memory, "MB");
+    }
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
     if (count < 3) {
-        std::cerr << "usage: start_bench program bare-window [turns]\n";
+        std::cerr << "usage: start_bench program bare-window [turns [other-program...]]\n";
         return 2;
     }
     const int turns = count > 3 ? std::atoi(arguments[3]) : 20;
@@ -158,6 +182,7 @@ int main(int count, char** arguments) {
             kept &= memory(program, bare, turns, page);
             kept &= idle(program, page);
         }
+        others({arguments + std::min(count, 4), arguments + count}, turns);
         return kept ? 0 : 1;
     } catch (const std::exception& failure) {
         std::cerr << failure.what() << "\n";

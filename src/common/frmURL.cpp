@@ -17,6 +17,7 @@ frmURL::frmURL() : FormOf(Kind::TopLevel, "frmURL", 5145, 2865) {
     Txt2.spokenAs = "Zephyrwick website";
     for (toolkit::TextBox* box : {&Txt1, &Txt2}) { // for copying, not for typing
         box->shrinksText = true;
+        box->Locked = true;
         box->GotFocus = SelectAllText;
         box->KeyDown = [](int& KeyCode, int /*Shift*/) { KeyCode = 0; };
         box->KeyPress = [](int& KeyAscii) { KeyAscii = 0; };

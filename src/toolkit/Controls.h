@@ -92,6 +92,7 @@ public:
     Property<int> SelLength{*this, Prop::Selection};
     Alignment TextAlign = Alignment::Left;
     bool shrinksText = false; // a smaller font, rather than a long text cut off
+    bool Locked = false;      // the user can select and copy the text, not change it
 };
 
 // Fires in the event loop, so it never interrupts running code.

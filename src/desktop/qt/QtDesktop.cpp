@@ -137,6 +137,7 @@ QApplication& QtDesktop::application() {
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
     application_->setQuitOnLastWindowClosed(false);    // the list of loaded forms decides
+    QApplication::setCursorFlashTime(0);               // a blinking caret is work while idle
     application_->installEventFilter(this);
     connect(application_.get(), &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (Control* const control = controlOf(now)) {

@@ -1,6 +1,7 @@
 #include "desktop/qt/ControlPeer.h"
 
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -46,7 +47,9 @@ protected:
         QLineEdit::focusInEvent(event);
     }
     void mousePressEvent(QMouseEvent* event) override {
-        entering_ = std::exchange(entered_, false) && hasSelectedText();
+        // Behind a message box the press is told when the mouse is long released.
+        const bool late = !QGuiApplication::mouseButtons().testFlag(event->button());
+        entering_ = late || (std::exchange(entered_, false) && hasSelectedText());
         if (!entering_)
             QLineEdit::mousePressEvent(event);
     }
@@ -68,9 +71,13 @@ public:
                                                                         : Qt::AlignLeft);
         if (box.shrinksText)
             QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this] { shrinkText(); });
+        widget->setReadOnly(box.Locked);
         showText();
-        QObject::connect(widget, &QLineEdit::textEdited, &listener_,
-                         [this](const QString& typed) { box_.Text.assume(typed.toStdString()); });
+        // Typed, pasted, or set by a screen reader.
+        QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this](const QString& now) {
+            if (!showing_)
+                box_.Text.assume(now.toStdString());
+        });
         QObject::connect(widget, &QLineEdit::selectionChanged, &listener_, [this] {
             box_.SelStart.assume(qMax(0, widget_->selectionStart()));
             box_.SelLength.assume(static_cast<int>(widget_->selectedText().size()));
@@ -88,8 +95,10 @@ public:
 
 private:
     void showText() {
+        showing_ = true; // bytes that are no character stay as they are in the box's own text
         widget_->setText(text(box_.Text));
         widget_->setCursorPosition(0); // a long text shows its beginning
+        showing_ = false;
     }
 
     // Of a text that the smallest size doesn't fit the beginning is shown, until it is worked on.
@@ -109,6 +118,7 @@ private:
 
     toolkit::TextBox& box_;
     QLineEdit* widget_;
+    bool showing_ = false;
 };
 
 } // namespace
