@@ -3,9 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <sstream>
 
@@ -14,25 +12,11 @@ using platform::DateTime;
 
 namespace {
 
+constexpr double kLargest = std::numeric_limits<double>::max();
+
 struct Conversions : testing::Test {
     tests::FakePlatform platform;
     std::map<int, std::string>& items = platform.locale.items;
-
-    void useSeparators(const std::string& decimal, const std::string& thousands) {
-        items[14] = decimal;
-        items[15] = thousands;
-    }
-    void useGermanLocale() {
-        useSeparators(",", ".");
-        items[29] = ".";
-        items[31] = "dd.MM.yyyy";
-        items[40] = items[41] = "";
-        items[42] = "Montag";
-        items[58] = "März";
-        items[62] = "Juli";
-        items[74] = "Jul.";
-        items[4099] = "HH:mm:ss";
-    }
 };
 
 // The number of the failure that a conversion raises.
@@ -54,13 +38,6 @@ std::vector<std::string> betweenBars(const std::string& texts) {
     return result;
 }
 
-std::vector<double> numbersOf(const std::string& texts) {
-    std::vector<double> numbers;
-    for (const auto& text : betweenBars(texts))
-        numbers.push_back(CDbl(text));
-    return numbers;
-}
-
 std::string textsOf(std::string (*convert)(double), std::initializer_list<double> numbers) {
     std::string texts;
     for (const double number : numbers)
@@ -69,125 +46,95 @@ std::string textsOf(std::string (*convert)(double), std::initializer_list<double
 }
 
 TEST_F(Conversions, NumbersHaveFifteenDigitsAndNoMoreThanTheyNeed) {
-    EXPECT_EQ(textsOf(CStr, {-0.0, 980, -749.5, 0.1 + 0.2, 100.0 / 3, 2.0 / 3, 1.0 / 30}),
-              "0 980 -749.5 0.3 33.3333333333333 0.666666666666667 3.33333333333333E-02 ");
-    EXPECT_EQ(textsOf(CStr, {999999999999999.4, 999999999999999.6, -1234567890123456, 1e100}),
-              "999999999999999 1E+15 -1.23456789012346E+15 1E+100 ");
-    EXPECT_EQ(textsOf(CStr, {0.000000000000001, 1.5e-15, 5e-324}),
-              "0.000000000000001 1.5E-15 4.94065645841247E-324 ");
-    useGermanLocale();
-    EXPECT_EQ(CStr(1.5e20), "1,5E+20");
+    EXPECT_EQ(textsOf(CStr, {-0.0, 980, -749.5, 0.1 + 0.2, 2.0 / 3, 1.0 / 30, 1e-15, 1.5e-15}),
+              "0 980 -749.5 0.3 0.666666666666667 3.33333333333333E-02 0.000000000000001 1.5E-15 ");
+    EXPECT_EQ(textsOf(CStr, {999999999999999.4, 999999999999999.6, 5e-324, kLargest}),
+              "999999999999999 1E+15 4.94065645841247E-324 1.79769313486231E+308 ");
     EXPECT_THROW(CStr(HUGE_VAL), platform::RuntimeError);
     EXPECT_THROW(FormatMoney(std::nan("")), platform::RuntimeError);
 }
 
 TEST_F(Conversions, AmountsAreGroupedAndRoundedAwayFromZero) {
-    EXPECT_EQ(textsOf(FormatMoney, {0, -749.5, 0.125, -0.125, 1.005, -0.001, 0.005, 0.995}),
-              "0.00 -749.50 0.13 -0.13 1.01 0.00 0.01 1.00 ");
-    EXPECT_EQ(
-        textsOf(FormatMoney, {999999999999.99, 12345678901234.56, 0.0049999999999999, -0.006}),
-        "999,999,999,999.99 12,345,678,901,234.56 0.00 -0.01 ");
-    EXPECT_EQ(CDbl(FormatMoney(std::numeric_limits<double>::max())),
-              std::numeric_limits<double>::max());
-    EXPECT_EQ(textsOf(FormatMoney, {123456.78, 999999.995, 1e15}),
-              "123,456.78 1,000,000.00 1,000,000,000,000,000.00 ");
-    useGermanLocale();
-    EXPECT_EQ(FormatMoney(1234.5), "1.234,50");
+    EXPECT_EQ(textsOf(FormatMoney, {0, -749.5, -0.125, 1.005, -0.001, 0.005, 0.0049999999999999}),
+              "0.00 -749.50 -0.13 1.01 0.00 0.01 0.00 ");
+    EXPECT_EQ(textsOf(FormatMoney, {123456.78, 999999.995, 12345678901234.56, 1e15}),
+              "123,456.78 1,000,000.00 12,345,678,901,234.56 1,000,000,000,000,000.00 ");
+    items[15] = ".";
+    EXPECT_EQ(FormatMoney(1234.5), "1.234.50");
 }
 
 TEST_F(Conversions, NumbersAreReadWithSignSeparatorsAndExponent) {
-    using Numbers = std::vector<double>;
-    EXPECT_EQ(numbersOf(" 1250.5 |1,234.50|270,5|1,2,3,|-7|- 7|+7|\t.5|5.|00012"),
-              Numbers({1250.5, 1234.5, 2705, 123, -7, -7, 7, 0.5, 5, 12}));
-    EXPECT_EQ(numbersOf("1e3|1E+15|1.5E-07|1e-400|0e999999999999|1.7976931348623157E308"),
-              Numbers({1000, 1e15, 15e-8, 0, 0, std::numeric_limits<double>::max()}));
+    const auto read = [](const std::string& texts) {
+        std::vector<double> numbers;
+        for (const auto& text : betweenBars(texts))
+            numbers.push_back(CDbl(text));
+        return numbers;
+    };
+    EXPECT_EQ(read(" 1250.5 |1,234.50|270,5|1,2,3,|- 7|+7|\t.5|5.|00012"),
+              std::vector<double>({1250.5, 1234.5, 2705, 123, -7, 7, 0.5, 5, 12}));
+    EXPECT_EQ(read("1E+3|1.5e-07|1e-400|0e999999999999|" + FormatMoney(kLargest)),
+              std::vector<double>({1000, 15e-8, 0, 0, kLargest}));
     const std::string half = "9007199254740993." + std::string(900, '0');
-    EXPECT_EQ(numbersOf(half + "|" + half + "1"), Numbers({9007199254740992, 9007199254740994}));
-    useGermanLocale();
-    EXPECT_EQ(numbersOf("270.5|1.234,50"), Numbers({2705, 1234.5}));
+    EXPECT_EQ(read(half + "|" + half + "1"), std::vector({9007199254740992.0, 9007199254740994.0}));
+    std::swap(items[14], items[15]);
+    EXPECT_EQ(read("1.234,50|" + CStr(1.5e20)), std::vector({1234.5, 1.5e20}));
 }
 
 TEST_F(Conversions, WhatIsNoNumberIsATypeMismatchAndATooLargeOneAnOverflow) {
-    for (const auto& text : betweenBars("| |-|.|,5|e5|1e|1e+|1.2.3|1.5,0|12a|--1|1-|$5|1 2|0x10|"
-                                        "inf|nan|1e5.0|١"))
+    for (const auto& text :
+         betweenBars("|-|.|,5|e5|1e|1e+|1.2.3|1.5,0|12a|--1|1-|1 2|0x10|inf|1e5.0|١"))
         EXPECT_EQ(failureOf(CDbl, text), platform::TypeMismatch) << text;
     EXPECT_EQ(failureOf(CDbl, std::string_view("1\0", 2)), platform::TypeMismatch);
     for (const char* text : {"-1e400", "1.8e308", "1e99999999999999999999999"})
         EXPECT_EQ(failureOf(CDbl, text), platform::Overflow) << text;
+    for (const auto& [text, whole] : {std::pair("2.5", 2), {"-3.5", -4}, {"-32768.5", -32768}})
+        EXPECT_EQ(CInt(text), whole) << text;
+    EXPECT_EQ(failureOf(CInt, "32767.5"), platform::Overflow);
 }
 
-TEST_F(Conversions, AHundredMegabytesAreReadInBoundedTime) {
-    const auto begin = std::chrono::steady_clock::now();
+// A time that grows with the square of the size would not end.
+TEST_F(Conversions, TextOfAHundredMegabytesIsRead) {
     const std::string text(100'000'000, '9');
     EXPECT_EQ(failureOf(CDbl, text), platform::Overflow);
     EXPECT_EQ(CDbl(text + "e-99999999"), 10);
-    EXPECT_EQ(failureOf(CDbl, std::string(100'000'000, ' ')), platform::TypeMismatch);
     EXPECT_EQ(ReadDate(text), std::nullopt);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
-}
-
-TEST_F(Conversions, AWrittenNumberReadsBackToTheSameText) {
-    std::mt19937_64 random(7);
-    for (int i = 0; i < 20000; ++i) {
-        const std::uint64_t bits = random();
-        double value;
-        std::memcpy(&value, &bits, sizeof value);
-        if (!std::isfinite(value))
-            continue;
-        ASSERT_EQ(CStr(CDbl(CStr(value))), CStr(value));
-    }
-    EXPECT_NO_THROW(CDbl(CStr(std::numeric_limits<double>::max())));
-}
-
-TEST_F(Conversions, WholeNumbersAreRoundedHalfToEvenWithinSixteenBits) {
-    const std::pair<const char*, int> rows[] = {{"2.5", 2}, {"-3.5", -4}, {"-32768.5", -32768}};
-    for (const auto& [text, value] : rows)
-        EXPECT_EQ(CInt(text), value) << text;
-    EXPECT_EQ(failureOf(CInt, "32767.5"), platform::Overflow);
 }
 
 const DateTime kDay{2005, 7, 5}, kEvening{2005, 7, 5, 18, 2, 7};
 
-TEST_F(Conversions, DatesFollowTheLocalesPictures) {
-    EXPECT_EQ(ShortDate(kEvening), "7/5/2005");
+TEST_F(Conversions, DatesFollowTheirPictures) {
     EXPECT_EQ(ShortDateTime(kEvening), "7/5/2005 6:02:07 PM");
     EXPECT_EQ(ShortDateTime({2024, 12, 31}), "12/31/2024 12:00:00 AM");
-    useGermanLocale();
-    EXPECT_EQ(ShortDateTime(kEvening), "05.07.2005 18:02:07");
-    EXPECT_EQ(FormatDate(kEvening, "d.M.yy, H:m:s"), "5.7.05, 18:2:7");
-    EXPECT_EQ(FormatDate({2005, 7, 4}, "dddd, d. MMMM yyyy"), "Montag, 4. Juli 2005");
+    items[42] = "Montag";
+    items[62] = "Juli";
+    EXPECT_EQ(FormatDate({2005, 7, 4, 18, 2, 7}, "dddd, dd. MMMM yy, H:m:s"),
+              "Montag, 04. Juli 05, 18:2:7");
     EXPECT_EQ(FormatDate(kEvening, "yyyy'年'M'月' 'o''clock"), "2005年7月 o'clock");
 }
 
 TEST_F(Conversions, ADateIsReadInTheOrderOfItsLocale) {
-    for (const char* text : {"7/5/2005", "07/05/05", " 7-5-2005 ", "7.5.2005", "2005-07-05",
-                             "7/5/2005 0:00", "7 5 2005"})
+    for (const auto& text :
+         betweenBars("07/05/05| 7-5-2005 |7.5.2005|2005-07-05|7/5/2005 0:00|7 5 2005|7/5"))
         EXPECT_EQ(ReadDate(text), kDay) << text;
     for (const char* text : {"7/5/2005 6:02:07 PM", "2005-07-05T18:02:07"})
         EXPECT_EQ(ReadDate(text), kEvening) << text;
-    EXPECT_EQ(ReadDate("7/5"), kDay);
     EXPECT_EQ(ReadDate("1/1/49")->year, 2049);
     EXPECT_EQ(ReadDate("1/1/50")->year, 1950);
-    useGermanLocale();
-    for (const auto& text :
-         betweenBars("5.7.2005|05/07/05|5. Juli 2005|5 jul. 2005|Juli 5, 2005|5.7.|5. Juli"))
-        EXPECT_EQ(ReadDate(text), kDay) << text;
-    items[31] = "yyyy-MM-dd";
-    EXPECT_EQ(ReadDate("2005-7-5"), kDay);
     items[31] = "d.MM.yyyy 'г.'";
     EXPECT_EQ(ReadDate(ShortDateTime(kEvening)), kEvening);
+    items[62] = "Juli";
+    items[74] = "Jul.";
+    for (const auto& text : betweenBars("05/07/05|5. Juli 2005|5 jul. 2005|Juli 5, 2005|5. Juli"))
+        EXPECT_EQ(ReadDate(text), kDay) << text;
+    EXPECT_EQ(ReadDate("5. Jul 2005 Juli"), std::nullopt);
 }
 
 TEST_F(Conversions, WhatIsNoDateIsRefused) {
     for (const auto& text :
-         betweenBars("|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/"
-                     "5-2005|6:42|12|13/13/2005|7.5|7,5|7 5|"
-                     "7/5/2005 24:00|7/5/2005 6|7/5/2005 6:60|7/5/2005 PM|7/5/2005 13:00 PM|"
-                     "7/5/2005/1|7/5/99/1|-7/5/2005|1.5|270,5|1e3|1/2/3/4/5/6/7"))
+         betweenBars("|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/5-2005|6:42|"
+                     "7.5|7,5|7 5|7/5/2005 24:00|7/5/2005 6|7/5/2005 6:60|7/5/2005 PM|"
+                     "7/5/2005 13:00 PM|7/5/2005/1|7/5/99/1|-7/5/2005|1e3|1/2/3/4/5/6/7"))
         EXPECT_EQ(ReadDate(text), std::nullopt) << text;
-    useGermanLocale();
-    EXPECT_EQ(ReadDate("7/25/2005"), std::nullopt);
-    EXPECT_EQ(ReadDate("5. Jul 2005 Juli"), std::nullopt);
 }
 
 } // namespace

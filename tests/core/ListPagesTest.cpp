@@ -1,11 +1,11 @@
-// What both pages of number rows do, and what the Favorites page does in its own way.
+// What both pages of number rows do, and what each of them does in its own way.
 #include "tests/support/ListPages.h"
-#include "numbers/frmMain.h"
 
 namespace {
 
 using namespace quorvanta;
 using namespace tests;
+using toolkit::Yes, toolkit::No, toolkit::Cancel, toolkit::Ignore;
 
 template <class Page>
 class ListPagesTest : public ProgramTest {
@@ -21,7 +21,26 @@ protected:
 };
 using Pages = ::testing::Types<frmCustomize6, frmFavorites>;
 TYPED_TEST_SUITE(ListPagesTest, Pages);
-using FavoritesTest = ProgramTest;
+
+TYPED_TEST(ListPagesTest, EnoughPickedNumbersAreFiledInRisingOrderAndStoredAtOnce) {
+    auto& page = this->open("1");
+    Numbers numbers = this->kCustomize ? Numbers{1, 2, 3, 9, 12, 40} : Numbers{40};
+    pick(page, {17, 17});
+    pick(page, numbers);
+    userClick(page.cmdCopy);
+    EXPECT_TRUE(this->desk.takeBoxes().at(0).starts_with(this->kCustomize ? "You have not selected"
+                                                                          : "You must have at"));
+    EXPECT_EQ(picked(page), numbers);
+    EXPECT_EQ(tell(this->rows), "1---------");
+    pick(page, {8});
+    userClickRow(page.grd1, 1);
+    userClick(page.cmdCopy);
+    EXPECT_EQ(this->rows[2],
+              this->kCustomize ? "1;2;3;8;9;12;40;" + std::string(42, ';') : "8;40;;;;;");
+    EXPECT_EQ(this->rows[3], std::string(this->kCustomize ? 49 : 6, ';'));
+    EXPECT_EQ(picked(page), Numbers{});
+    EXPECT_EQ(page.grd1.row(), 0);
+}
 
 TYPED_TEST(ListPagesTest, TheFirstRowWithoutAFirstNumberIsFilledAndThenTheLimitCounts) {
     fillRows(this->rows, "12345678");
@@ -31,7 +50,6 @@ TYPED_TEST(ListPagesTest, TheFirstRowWithoutAFirstNumberIsFilledAndThenTheLimitC
     pick(page, this->kCustomize ? Numbers{1, 2, 3, 4, 5, 6, 7} : Numbers{1, 2});
     userClick(page.cmdCopy);
     EXPECT_TRUE(this->rows[9].starts_with(odd + ";") && this->rows[10].starts_with("1;2;"));
-    EXPECT_TRUE(this->desk.boxes.empty());
     userClick(page.cmdCopy); // with too few numbers picked
     EXPECT_TRUE(this->desk.takeBoxes().at(0).starts_with(
         "You have reached the limit for your " + std::string(this->kCustomize ? "C" : "F")));
@@ -48,17 +66,14 @@ TYPED_TEST(ListPagesTest, OnlyYesDeletesAndEachWayOutLeavesItsOwnCurrentRow) {
         std::string after, box;
         int current, currentFavorites;
     };
-    for (const Case& c :
-         std::vector<Case>{{"12345", 3, toolkit::Yes, "1245------", "Do", 0, 0},
-                           {"1234567812", 10, toolkit::Yes, "123456781-", "Do", 0, 0},
-                           {"12345", 3, toolkit::No, "12345-----", "Do", 0, 1},
-                           {"12345", 3, toolkit::Cancel, "12345-----", "Do", 0, 1},
-                           {"12345", 7, toolkit::Yes, "12345-----", "Yo", 7, 0},
-                           {"12", 0, toolkit::Yes, "2---------", "Do", 0, 0},
-                           {"", 0, toolkit::Yes, "----------", "Yo", 1, 0},
-                           {"12345", -1, toolkit::Yes, "12345-----", "Yo", 0, 0},
-                           // Of an edited file; one pass moves each row up once.
-                           {"12--5", 1, toolkit::Yes, "2--5------", "Do", 0, 0}}) {
+    for (const Case& c : std::vector<Case>{{"1234567812", 9, Yes, "123456782-", "Do", 0, 0},
+                                           {"12345", 3, No, "12345-----", "Do", 0, 1},
+                                           {"12345", 3, Cancel, "12345-----", "Do", 0, 1},
+                                           {"12345", 7, Yes, "12345-----", "Yo", 7, 0},
+                                           {"12", 0, Yes, "2---------", "Do", 0, 0},
+                                           {"12345", -1, Yes, "12345-----", "Yo", 0, 0},
+                                           // Of an edited file; one pass moves each row up once.
+                                           {"12--5", 1, Yes, "2--5------", "Do", 0, 0}}) {
         SCOPED_TRACE(c.before + ", row " + std::to_string(c.row));
         auto& page = this->open(c.before);
         this->desk.answers = {c.answer};
@@ -90,13 +105,11 @@ TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
         std::size_t boxes = 0;
     };
     for (const Case& c :
-         std::vector<Case>{{"C24", false, "14325-----"},
-                           {"C2413", false, "14325-----"},
+         std::vector<Case>{{"C2413", false, "14325-----"},
                            {"C22", false},
                            {"C2C4", false},
                            {"C2CC4", true},
                            {"S24", false},
-                           {"C6", true, "12345-----", 1},
                            {"C264", false, "14325-----", 1},
                            {"C024", false, "14325-----"},
                            {"C2R04", false, "14325-----"}, // no row is chosen by the header
@@ -106,7 +119,7 @@ TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
                            {"CD2", false, "1234------", this->kCustomize ? 2U : 1U}}) {
         SCOPED_TRACE(c.events);
         auto& page = this->open();
-        this->desk.answers = {toolkit::Yes};
+        this->desk.answers = {Yes};
         for (const char event : c.events)
             if (events.contains(event))
                 events.at(event)(page);
@@ -120,36 +133,77 @@ TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
     }
 }
 
+class FavoritesTest : public ProgramTest {};
+
 TEST_F(FavoritesTest, ASeventhKeyIsRefusedAndAnyOfTheSixCanBeTakenBack) {
     auto& page = open<frmFavorites>();
     pick(page, {10, 20, 30, 40, 5, 6, 7});
-    EXPECT_EQ(picked(page), (Numbers{5, 6, 10, 20, 30, 40}));
     EXPECT_TRUE(desk.takeBoxes().at(0).starts_with("You allready have 6 favorite numbers."));
-    pick(page, {10, 7});
-    EXPECT_EQ(picked(page), (Numbers{5, 6, 7, 20, 30, 40}));
+    pick(page, {10, 8});
+    EXPECT_EQ(picked(page), (Numbers{5, 6, 8, 20, 30, 40}));
 }
 
-TEST_F(FavoritesTest, TwoNumbersMakeARowAndOneDoesNot) {
-    auto& page = open<frmFavorites>();
-    pick(page, {9});
-    userClick(page.cmdCopy);
-    EXPECT_TRUE(desk.takeBoxes().at(0).starts_with("You must have at least 2 Favorite "));
-    EXPECT_EQ(gstrFavorites, RowTexts{});
-    pick(page, {4});
-    page.mnnuFileToGrid.click();
-    EXPECT_EQ(gstrFavorites[1], "4;9;;;;;");
-    EXPECT_EQ(gstrFavorites[10], ";;;;;;");
-    EXPECT_EQ(picked(page), Numbers{});
+class Customize6Test : public ProgramTest {};
+
+// Rows that only a file edited by hand can bring.
+TEST_F(Customize6Test, AnOddRowIsStoredAsItWasAndNeverHangsADraw) {
+    struct Case {
+        std::string text;
+        Numbers numbers; // six at most, so a draw takes them all
+        std::vector<std::string> reports = {};
+        std::string cut = ""; // what is lost of the text
+    };
+    const std::string in = " cLotto.SetCustomNumbers";
+    desk.last = Ignore;
+    for (const Case& c :
+         std::vector<Case>{{"5;5;9;9;5;", {5, 9}},
+                           {"1;abc;3;", {1, 3}, {"13" + in}},
+                           {"50;0;70000;7;", {7}, {"340" + in, "340" + in, "6" + in}},
+                           {"4; 8 ; ;6;", {4, 8}},
+                           {"8;", {}},
+                           {std::string(49, ';') + "7;", {}, {}, "7;"},
+                           {"1;2;3", {1, 2}, {}, "3"}}) {
+        gstrStammNumbers[1] = c.text;
+        auto& page = open<frmCustomize6>();
+        page.mnuJackpotGenerator.click();
+        EXPECT_EQ(pool(page), c.numbers) << c.text;
+        EXPECT_EQ(drawn(page), c.numbers) << c.text;
+        EXPECT_EQ(desk.takeReports(), c.reports) << c.text;
+        userClick(page.cmdCancel);
+        std::string stored = c.text.substr(0, c.text.size() - c.cut.size());
+        while (std::ranges::count(stored, ';') < 49)
+            stored += ';';
+        EXPECT_EQ(gstrStammNumbers[1], stored);
+    }
 }
 
-TEST_F(FavoritesTest, TheGridTakesTheSizeOfItsContentAndTheFileMenuShowsPages) {
-    auto& page = open<frmFavorites>();
-    EXPECT_EQ(page.grd1.Height, 240 * 11 + 100);
-    EXPECT_EQ(page.grd1.Width, 480 * 6 + 960 + 150);
-    EXPECT_EQ(page.grd1.text(0, 0) + page.grd1.text(0, 6), "Favorites# 6");
-    page.mnuMainForm.click();
-    page.mnuCustomize.click();
-    EXPECT_TRUE(frmMain::ifLoaded() && frmCustomize6::ifLoaded() && frmFavorites::ifLoaded());
+TEST_F(Customize6Test, ADrawUnderWayBearsWhateverTheUserDoes) {
+    struct Case {
+        std::function<void(frmCustomize6&)> during;
+        std::size_t pool, drawn;
+    };
+    for (const Case& c :
+         std::vector<Case>{{[](auto& page) { userClickRow(page.grd1, 3); }, 7, 6},
+                           {[](auto& page) { userClickRow(page.grd1, 9); }, 0, 1}, // a free row
+                           {[](auto& page) { userDoubleClickRow(page.grd1, 2); }, 7, 6},
+                           {[](auto& page) { userClick(page.cmdReset); }, 49, 6},
+                           {[](auto& page) { userClick(page.cmdCancel); }, 7, 6}}) {
+        fillRows(gstrStammNumbers, "123");
+        const auto page =
+            std::static_pointer_cast<frmCustomize6>(open<frmCustomize6>().shared_from_this());
+        userClickRow(page->grd1, 2);
+        os.random.script = {1.5F / 49, 1.5F / 49}; // 2, a number of the row, twice
+        int yields = 0;
+        desk.onDoEvents = [&] {
+            if (++yields == 2)
+                c.during(*page);
+        };
+        desk.answers = {Yes};
+        userClick(page->cmdJackpot);
+        EXPECT_EQ(pool(*page).size(), c.pool);
+        EXPECT_EQ(drawn(*page).size(), c.drawn);
+        page->Unload();
+    }
 }
 
 } // namespace

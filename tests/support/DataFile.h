@@ -1,5 +1,4 @@
-// What the tests of the data file share: a whole file, the values it holds, and error boxes that
-// answer from a script.
+// What the tests of the data file share: a whole file, the values it holds, and its error boxes.
 #pragma once
 
 #include "frame/Shared.h"
@@ -10,14 +9,14 @@
 
 namespace tests {
 
-// The file of a user with two customized rows and one favorite row.
+// The file of a user with ten customized rows and favorite rows.
 inline std::string wholeFile() {
-    std::string stamm = "1.3;7;12;25;33;41;48;" + std::string(42, ';') +
-                        "\r\n2.8;11;19;23;29;34;40;46;" + std::string(41, ';') + "\r\n";
-    std::string favorites = "1.5;9;14;22;36;44;\r\n2.;;;;;;\r\n";
-    for (int row = 3; row <= quorvanta::kRows; ++row) {
-        stamm += std::to_string(row) + "." + std::string(49, ';') + "\r\n";
-        favorites += std::to_string(row) + ".;;;;;;\r\n";
+    std::string stamm, favorites;
+    for (int row = 1; row <= quorvanta::kRows; ++row) {
+        const std::string numbers =
+            std::to_string(row) + "." + std::to_string(row) + ";11;19;23;29;34;";
+        stamm += numbers + "40;46;" + std::string(41, ';') + "\r\n";
+        favorites += numbers + "\r\n";
     }
     return "7/25/2005 6:42:07 PM\r\n"
            "Tampering with this file will cause the program not to run correctly!\r\n"
@@ -36,17 +35,9 @@ inline auto stored() {
 using StoredValues = std::tuple<quorvanta::RowTexts, quorvanta::RowTexts, double, double, double,
                                 double, std::string>;
 
-// Answers error boxes with `answers`, one after the other, and then with `last` for ever.
+// A desktop whose boxes are error boxes.
 struct ErrorBoxes : FakeDesktop {
-    int last = toolkit::Abort;
-
-    ErrorBoxes() {
-        toolkit::install(this);
-        onBox = [this] {
-            if (answers.empty())
-                answers = {last};
-        };
-    }
+    ErrorBoxes() { toolkit::install(this); }
     ~ErrorBoxes() override { toolkit::install(nullptr); }
     ErrorBoxes(const ErrorBoxes&) = delete;
 };

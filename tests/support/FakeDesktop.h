@@ -23,22 +23,21 @@ inline bool takesFocus(const toolkit::Control& control) {
     return rightKind && control.Enabled && control.Visible;
 }
 
-// The controls that take the focus, in the order in which Tab visits them.
-inline std::vector<toolkit::Control*> tabOrder(const toolkit::Container& container) {
-    std::vector<toolkit::Control*> order;
-    for (toolkit::Control* control : container.controls()) {
-        if (takesFocus(*control))
-            order.push_back(control);
-        if (const auto* inner = dynamic_cast<const toolkit::Container*>(control))
-            std::ranges::copy(tabOrder(*inner), std::back_inserter(order));
+// The controls of a form, also those in its frames.
+inline std::vector<toolkit::Control*> allControls(const toolkit::Container& of) {
+    std::vector<toolkit::Control*> all;
+    for (toolkit::Control* const control : of.controls()) {
+        all.push_back(control);
+        if (const auto* const inner = dynamic_cast<const toolkit::Container*>(control))
+            std::ranges::copy(allControls(*inner), std::back_inserter(all));
     }
-    std::ranges::stable_sort(order, {}, &toolkit::Control::TabIndex);
-    return order;
+    return all;
 }
 
 struct FakeDesktop : toolkit::Desktop {
     std::vector<toolkit::MessageBox> boxes; // in the order in which they were shown
-    std::deque<int> answers;                // to the boxes; their default button once it is empty
+    std::deque<int> answers;                // to the boxes
+    int last = 0;                           // for ever behind those; 0 for a box's default button
     std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
     std::vector<std::vector<toolkit::PrintedText>> printed; // page by page
@@ -60,22 +59,23 @@ struct FakeDesktop : toolkit::Desktop {
         }
     };
 
-    // A form that comes to the front gets the focus where it was, at first on its first control.
+    // A form that comes to the front gets the focus where it was, at first on the first control in
+    // the tab order.
     void show(toolkit::Form& form, bool /*modal*/) override {
-        const auto order = tabOrder(form);
-        if (form.ActiveControl)
-            form.ActiveControl->SetFocus();
-        else if (!order.empty())
-            order.front()->SetFocus();
+        toolkit::Control* to = form.ActiveControl;
+        for (toolkit::Control* const it : allControls(form))
+            if (takesFocus(*it) && !form.ActiveControl && (!to || it->TabIndex < to->TabIndex))
+                to = it;
+        if (to)
+            to->SetFocus();
     }
     int messageBox(const toolkit::MessageBox& box) override {
         boxes.push_back(box);
         if (onBox)
             onBox();
-        const int answer = answers.empty() ? box.defaultAnswer() : answers.front();
-        if (!answers.empty())
-            answers.pop_front();
-        return answer;
+        if (answers.empty())
+            return last == 0 ? static_cast<int>(box.defaultAnswer()) : last;
+        return std::exchange(answers, {answers.begin() + 1, answers.end()}).front();
     }
     void doEvents() override {
         if (onDoEvents)

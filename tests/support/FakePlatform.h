@@ -20,13 +20,8 @@ namespace tests {
 struct ProcessEnded {};
 
 struct FakeProcess : platform::Process {
-    bool another = false, ended = false;
-
-    bool prevInstance() const override { return another; }
-    [[noreturn]] void end() override {
-        ended = true;
-        throw ProcessEnded{};
-    }
+    bool prevInstance() const override { return false; }
+    [[noreturn]] void end() override { throw ProcessEnded{}; }
 };
 
 struct FakeClock : platform::Clock {
@@ -51,7 +46,6 @@ struct FakeRandom : platform::Random {
 
 struct FakeSettings : platform::Settings {
     std::map<std::string, std::string> values; // by "application/section/key"
-    int saves = 0;
 
     std::string get(const std::string& application, const std::string& section,
                     const std::string& key, const std::string& fallback) const override {
@@ -60,7 +54,6 @@ struct FakeSettings : platform::Settings {
     }
     void save(const std::string& application, const std::string& section, const std::string& key,
               const std::string& value) override {
-        ++saves;
         values[application + "/" + section + "/" + key] = value;
     }
 };
@@ -163,15 +156,10 @@ inline int fill(char* buffer, int size, const std::string& text) {
 // An American user's locale by default; a test changes the items it wants otherwise. Text is taken
 // for ASCII.
 struct FakeLocale : platform::Locale {
-    std::map<int, std::string> items{{1, "0409"}, {12, ","},  {13, "1"}, {14, "."},
-                                     {15, ","},   {29, "/"},  {30, ":"}, {33, "0"},
-                                     {36, "1"},   {40, "AM"}, {41, "PM"}};
+    std::map<int, std::string> items{{13, "1"},  {14, "."},           {15, ","}, {29, "/"},
+                                     {30, ":"},  {31, "M/d/yyyy"},    {33, "0"}, {40, "AM"},
+                                     {41, "PM"}, {4099, "h:mm:ss tt"}};
 
-    FakeLocale() {
-        items[31] = "M/d/yyyy";
-        items[32] = "dddd, MMMM d, yyyy";
-        items[4099] = "h:mm:ss tt";
-    }
     int GetLocaleInfoA(int, int item, char* buffer, int size) const override {
         const auto it = items.find(item);
         const int length = it == items.end() ? 0 : fill(buffer, size, it->second);

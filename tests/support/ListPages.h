@@ -29,12 +29,6 @@ inline Numbers drawn(const quorvanta::frmCustomize6& page) {
     return numbersWhere([&](int n) { return page.Label1(n).ForeColor == toolkit::kRed; });
 }
 
-template <class Page>
-Page& open() {
-    Page::the().Show();
-    return Page::the();
-}
-
 inline void pick(quorvanta::ListPage& page, const Numbers& numbers) {
     for (const int n : numbers)
         userClick(page.cmdKey(n));

@@ -36,4 +36,11 @@ protected:
     }
 };
 
+// Shows the page.
+template <class Page>
+Page& open() {
+    Page::the().Show();
+    return Page::the();
+}
+
 } // namespace tests
