@@ -45,14 +45,9 @@ class Bankroll(Road):
         self.assertEqual(program.answer("OK"), "Please enter a date")
         today = time.strftime("%d.%m.%Y")
         until(lambda: boxes() == [today, "2.000,00", "", "500,00"], "today")
-        keys("Escape")
-        until(lambda: not program.pages(), "the page's end")
         program.end()
         self.assertEqual(self.data()[29:34], ["Win:1250,5", "Loss:2000", "Bal:-749,5", "Large:500",
                                               "Date:" + today])
-
-        program, page = self.open()
-        self.assertEqual(boxes(), [today, "2.000,00", "1.250,50", "500,00"])
 
     def test_a_wrong_amount_is_refused_once_whatever_takes_the_focus_and_esc_gives_it_up(self):
         program, page = self.open()
@@ -69,10 +64,8 @@ class Bankroll(Road):
             program.answer("OK")
             until(lambda: has(wins, "FOCUSED") and not Atspi.Text.get_text(wins, 0, -1), "the box")
             program.page("Bankroll")  # it has stayed in front
-        self.assertEqual(numbers.drawn(), [])
         keys(*"abc", "Escape")
         program.page("6 From 49")
-        self.assertEqual(len(program.pages()), 1)
         program.tool("Bankroll")
         program.page("Bankroll").press("Calculator")
         until(lambda: xdotool("search", "--onlyvisible", "--class", "galculator"), "the calculator")

@@ -18,8 +18,7 @@ class Favorites(Road):
             "Quor Vanta: Quor Vanta Website", "Help: Contents, -, About"])
         self.check_order(page, ("table", ["Favorites"]),
                          ("push button", [*range(1, 50), "File to Grid", "Reset", "Close"]))
-        self.assertEqual(page.row(1, 6), ["5", "9", "", "", "", ""])
-        self.assertEqual(page.row(2, 6), ["ж", "", "", "", "", ""])
+        self.assertEqual([page.row(1, 6), page.cell(2).get_name()], [["5", "9", *[""] * 4], "ж"])
         keys("space", "Tab", "Tab", "space", "Tab", "space")
         until(lambda: page.picked() == [1, 3, 4], "the picks")
         keys("shift+Tab", "space", "alt+f")  # 3 is taken back
@@ -45,7 +44,3 @@ class Favorites(Road):
         lines = self.data("cp1251")
         self.assertRegex(lines[1], r"^\d+\.\d+\.\d{4} г\.")
         self.assertEqual(lines[16:20], ["[Favorites]", "1.ж;;;;;;", "2.5;9;;;;;", "3.;;;;;;"])
-
-        program = self.run_program(locale="bg_BG.UTF-8")
-        program.tool("Favorites")
-        self.assertEqual(program.page("Favorites").row(2, 2), ["5", "9"])

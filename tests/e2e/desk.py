@@ -48,10 +48,10 @@ def in_front(title):
     return xdotool("getactivewindow", "getwindowname").rstrip("\n") == title
 
 
-def click(node, times=1):
+def click(node, times=1, button=1):
     box = node.get_extents(Atspi.CoordType.SCREEN)
     xdotool("mousemove", box.x + box.width // 2, box.y + box.height // 2,
-            "click", "--repeat", times, "--delay", 60, 1)
+            "click", "--repeat", times, "--delay", 60, button)
 
 
 def has(node, state):
@@ -178,6 +178,11 @@ class Program:
 
     def pages(self):
         return children(self._part("layered pane"))
+
+    def dialog(self, title):
+        """The window in front, once it has the title."""
+        return Page(until(lambda: next(w for w in self.windows()
+                                       if w.get_name() == title and has(w, "ACTIVE")), title))
 
     def page(self, title):
         """The page in front, once it has the title."""
