@@ -24,7 +24,7 @@ class Favorites(Road):
         keys("shift+Tab", "space", "alt+f")  # 3 is taken back
         until(lambda: page.row(3, 3) == ["1", "4", ""], "the row")
         keys("alt+r", "shift+Tab", "shift+Tab")  # Reset, then back over File to Grid to the keys
-        until(lambda: has(page.button(49), "FOCUSED"), "the focus on 49")
+        until(lambda: has(page["push button", "49"], "FOCUSED"), "the focus on 49")
         keys(*["shift+Tab"] * 49)
         until(lambda: has(page.grid, "FOCUSED"), "the focus on the grid")
         keys("ctrl", "Down", "Return", "Down", "Down")

@@ -1,69 +1,57 @@
 """The help: its viewer on a page of the test's own, and the links of the guide."""
 
-import os
+import pathlib
 import re
 
 from desk import APP, Atspi, Road, click, has, keys, until, xdotool
 
-GUIDE = APP + "quorvantalite.hlp"
+GUIDE, HELP = pathlib.Path(APP + "quorvantalite.hlp"), "Quor Vanta  - Help"
 FILLER = "<p>word</p>" * 200
 PAGE = ("<h2>Before</h2><p>Ball</p>" + FILLER + "<h1>\u00C4</h1><h3>Deep</h3>" + FILLER
         + "<h2>A</h2><h4>No</h4><p>a ball</p>" + FILLER)
 
 
 class Help(Road):
-    def setUp(self):
-        super().setUp()
-        with open(GUIDE, encoding="utf-8") as file:
-            self.guide = file.read()
-        self.addCleanup(self.write, self.guide)
-
-    @staticmethod
-    def write(page):
-        with open(GUIDE, "w", encoding="utf-8") as file:
-            file.write(page)
-
     def test_every_link_of_the_guide_leads_to_a_place_in_it(self):
-        links = re.findall(r'<a [^>]*href="([^"]*)"', self.guide)
+        guide = GUIDE.read_text(encoding="utf-8")
+        links = re.findall(r'<a [^>]*href="([^"]*)"', guide)
         self.assertGreater(len(links), 10)
-        self.assertLessEqual(set(links), {"#" + id for id in re.findall(r' id="(.*?)"', self.guide)})
+        self.assertLessEqual(set(links), {"#" + id for id in re.findall(r' id="(.*?)"', guide)})
 
     def test_a_missing_file_is_reported_until_it_is_there_and_headings_and_words_are_found(self):
-        os.remove(GUIDE)
+        self.addCleanup(GUIDE.write_bytes, GUIDE.read_bytes())
+        GUIDE.unlink()
         program = self.run_program()
 
         def choose_help():
             xdotool("search", "--name", "^Zephyrwick - ", "windowactivate", "--sync")
             keys("alt+h", "Return")
 
-        def page():
-            return program.dialog("Quor Vanta  - Help")
-
         def view():
-            return page()["label", "Help page"]
+            return program.dialog(HELP)["label", "Help page"]
 
-        def text(start=0):
-            return Atspi.Text.get_text(view(), start, -1)
+        def text():
+            return Atspi.Text.get_text(view(), 0, -1)
 
         def at_top(line):
             box = view().get_extents(Atspi.CoordType.SCREEN)
             place = (box.x + 20, box.y + 15, Atspi.CoordType.SCREEN)
-            until(lambda: text(Atspi.Text.get_offset_at_point(view(), *place)).startswith(line), line)
+            until(lambda: text()[Atspi.Text.get_offset_at_point(view(), *place):].startswith(line))
 
         def found():
             marked = Atspi.Text.get_selection(view(), 0)
             return text()[marked.start_offset - 2:marked.end_offset]
 
         choose_help()
-        until(lambda: GUIDE in text(), "the report")
-        self.assertNotIn(("tree", "Contents"), page().nodes)
-        self.write(PAGE)
+        until(lambda: str(GUIDE) in text(), "the report")
+        self.assertNotIn(("tree", "Contents"), program.dialog(HELP).nodes)
+        GUIDE.write_text(PAGE, encoding="utf-8")
         choose_help()
         until(lambda: text().startswith("Before"), "the page")
-        self.assertIn("    table cell: Before, \u00C4, Deep, A", page().lines)
+        self.assertIn("    table cell: Before, \u00C4, Deep, A", program.dialog(HELP).lines)
         keys("Down", "Down")
         at_top("Deep")
-        click(page()["table cell", "\u00C4"])
+        click(program.dialog(HELP)["table cell", "\u00C4"])
         at_top("\u00C4")
         choose_help()  # a second call keeps the reader's place
         at_top("\u00C4")
@@ -73,7 +61,7 @@ class Help(Road):
         until(lambda: found() == "e\nBall", "the word before")
         at_top("Before")
         keys(*"room", "Return")
-        until(lambda: ("label", "Not found") in page().nodes, "no word")
+        until(lambda: ("label", "Not found") in program.dialog(HELP).nodes, "no word")
         keys("Escape")
         until(lambda: has(view(), "FOCUSED"), "the focus on the page")
         keys("Escape")

@@ -32,12 +32,13 @@ class Runs(Road):
         program = self.run_program(leave_splash=False)
         program.box()
         time.sleep(4)
-        keys("Escape", "i")  # Esc is no answer, Ignore is
+        keys("i")  # Ignore
         program.frame()
         os.remove(DATA)
         os.mkdir(DATA)
         program.process.terminate()
         self.assertEqual(program.box().lines[-1][-20:], "Abort, Retry, Ignore")
+        keys("Escape")  # is no answer
         time.sleep(1)
         os.rmdir(DATA)
         keys("r")  # Retry

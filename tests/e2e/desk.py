@@ -99,39 +99,33 @@ class Page:
             else:
                 self.lines.append(head)
             self.lines[-1] += f" {name}{states}" if name else ""
-            if role != "table":
+            if role == "table":
+                self.grid = child
+            else:
                 self._read(child, indent + "  ")
 
     def __getitem__(self, role_and_name):
         return self.nodes[role_and_name]
 
-    def button(self, name):
-        return self["push button", str(name)]
-
     def press(self, *names):
         for name in names:
-            click(self.button(name))
+            click(self["push button", str(name)])
 
-    def spoken(self, role, mark):
-        """The numbers whose keys or labels are spoken with the mark."""
-        return [n for n in range(1, 50) if self[role, str(n)].get_name() == f"{n}, {mark}"]
+    def numbers(self, role, holds):
+        return [n for n in range(1, 50) if holds(self[role, str(n)], n)]
 
     def drawn(self):
-        """The drawn numbers, which are those painted red."""
-        numbers = self.spoken("label", "drawn")
+        """The drawn numbers, which are those spoken so and painted red."""
+        numbers = self.numbers("label", lambda node, n: node.get_name() == f"{n}, drawn")
         red = shows(RED, [self["label", str(n)] for n in range(1, 50)])
         assert numbers == [n for n in range(1, 50) if red[n - 1]], f"drawn are {numbers}"
         return numbers
 
     def picked(self):
-        return self.spoken("push button", "picked")
+        return self.numbers("push button", lambda node, n: node.get_name() == f"{n}, picked")
 
     def pool(self):
-        return [n for n in range(1, 50) if has(self["label", str(n)], "ENABLED")]
-
-    @property
-    def grid(self):
-        return next(node for (role, _), node in self.nodes.items() if role == "table")
+        return self.numbers("label", lambda node, n: has(node, "ENABLED"))
 
     def cell(self, row, column=1):
         return self.grid.get_accessible_at(row - 1, column - 1)
@@ -161,23 +155,22 @@ class Program:
 
     def windows(self):
         """Of this run; those of an earlier one can linger on the bus."""
-        for application in children(Atspi.get_desktop(0), every=True):
-            if application.get_process_id() == self.process.pid:
-                return children(application)
-        return []
+        return [window for application in children(Atspi.get_desktop(0), every=True)
+                if application.get_process_id() == self.process.pid
+                for window in children(application)]
 
     def frame(self):
-        until(lambda: in_front(FRAME), "the frame")
-        return until(lambda: next(w for w in self.windows() if w.get_name() == FRAME), "the frame")
+        return until(lambda: in_front(FRAME) and next(w for w in self.windows()
+                                                      if w.get_name() == FRAME), "the frame")
 
-    def _part(self, role):
+    def part(self, role):
         return next(node for node in children(self.frame()) if node.get_role_name() == role)
 
     def tool(self, tooltip):
-        click(next(b for b in children(self._part("tool bar")) if b.get_name() == tooltip))
+        click(next(b for b in children(self.part("tool bar")) if b.get_name() == tooltip))
 
     def pages(self):
-        return children(self._part("layered pane"))
+        return children(self.part("layered pane"))
 
     def dialog(self, title):
         """The window in front, once it has the title."""
@@ -187,12 +180,8 @@ class Program:
     def page(self, title):
         """The page in front, once it has the title."""
         title = "Quor Vanta  - " + title
-
-        def in_front_with_focus():
-            found = [page for page in self.pages() if page.get_name() == title]
-            return found and has(found[0], "FOCUSED") and found[0]
-
-        return Page(until(in_front_with_focus, title))
+        return Page(until(lambda: next(page for page in self.pages()
+                                       if page.get_name() == title and has(page, "FOCUSED")), title))
 
     def menus(self):
         """The menu bar: each menu with its entries, a separator as a dash."""
@@ -204,22 +193,12 @@ class Program:
             return (node.get_name() + (" (checked)" if has(node, "CHECKED") else "")
                     + ("" if has(node, "ENABLED") else " (grey)")
                     + (": " + ", ".join(inner) if inner else ""))
-        return [entry(menu) for menu in children(self._part("menu bar"))]
-
-    def choose(self, *entries):
-        """Opens the menu of the first name, and so on to the entry of the last one."""
-        level = self._part("menu bar")
-        for name in entries:
-            item = until(lambda: next(e for e in children(level) if e.get_name() == name), name)
-            click(item)
-            level = next(iter(children(item, True)), None)
+        return [entry(menu) for menu in children(self.part("menu bar"))]
 
     def box(self):
         """The message box in front, as a page."""
-        def alert():
-            return next((w for w in self.windows()
-                         if w.get_role_name() == "alert" and has(w, "ACTIVE")), None)
-        return Page(until(alert, "a message box"))
+        return Page(until(lambda: next(w for w in self.windows() if w.get_role_name() == "alert"
+                                       and has(w, "ACTIVE")), "a message box"))
 
     def answer(self, button):
         """Answers the message box by a click, and gives its text."""

@@ -17,13 +17,15 @@ gtk-update-icon-cache -q -t "$icons" # a cache that the script has to renew
 unpack() { tar -xzf "$package" -C "$folder" --strip-components=1 || fail "the package doesn't unpack"; }
 menu() { "$folder/desktop-menu" "$1" >/dev/null || fail "desktop-menu $1: code $?"; }
 installed() { (cd "$XDG_DATA_HOME" && find . -printf '%p %y %s\n' | sort); }
-start() {
+# Starts it from the menu, works it by the keys, and ends it.
+run() {
     env LC_ALL=en_US.UTF-8 gio launch "$entry" || fail "the menu's entry doesn't start: $(grep Exec "$entry")"
     await in_front '^Zephyrwick - '
     pid=$(xdotool getactivewindow getwindowpid)
     [[ $(readlink "/proc/$pid/exe") == "$folder/quorvanta" ]] || fail "it started another program"
-}
-end() {
+    class=$(xprop -id "$(xdotool getactivewindow)" WM_CLASS)
+    [[ $class == *"\"$(sed -n 's/^StartupWMClass=//p' "$entry")\"" ]] || fail "the window's class: $class"
+    keys "$@"
     kill -TERM "$pid"
     await eval '! kill -0 $pid'
 }
@@ -57,23 +59,15 @@ for name in "blank \"quotes' \$HOME \`id\` back\\slash ä;#&~" 'a=b 100% %f'; do
     (cd "$icons" && identify -format '%wx%h %d\n' */apps/$id.png | awk '$1 "/apps" != $2' | grep .) &&
         fail "an icon has another size than its folder tells"
 
-    start
-    class=$(xprop -id "$(xdotool getactivewindow)" WM_CLASS)
-    [[ $class == *"\"$(sed -n 's/^StartupWMClass=//p' "$entry")\"" ]] || fail "the window's class: $class"
-    keys alt+f Return alt+g Down Right Down Return # "6 From 49", and the second system of its menu
-    grep -qx 'system=1' "$XDG_CONFIG_HOME"/*/quorvanta.ini || fail "no setting was stored"
-    end
+    run alt+f Return alt+g Down Right Down Return # "6 From 49", and the second system of its menu
     sed -i '23s/^7\./7.8;13;;;;;/; s/^Loss:0/Loss:5/' "$folder/Quorvanta.txt" # a favorite row
-    start # its save makes this the backup
-    end
+    run space # its save makes this the backup
     old=$(kept)
     [[ $old == *7.8\;13\;*Loss:5*7.8\;13\;*Loss:5*system=1* ]] || fail "not kept: $old"
     echo older >"$folder/CHANGELOG.md"
     unpack
     [[ $(kept) == "$old" && $(<"$folder/CHANGELOG.md") != older ]] || fail "the upgrade: $(kept)"
-    start
-    keys alt+f Return
-    end
+    run alt+f Return
     [[ $(kept) == "$old" ]] || fail "after the upgrade: $(kept | diff - <(echo "$old"))"
     mv "$folder" "$folder moved"
     gio launch "$entry" 2>/dev/null && fail "an entry without its program is still shown"
