@@ -31,14 +31,14 @@ class Runs(Road):
         self.write_data("[Win/Loss]", "Win:", "Loss:5")
         program = self.run_program(leave_splash=False)
         program.box()
+        keys("Escape")  # is no answer
         time.sleep(4)
-        keys("i")  # Ignore
+        program.answer("Ignore")
         program.frame()
         os.remove(DATA)
         os.mkdir(DATA)
         program.process.terminate()
         self.assertEqual(program.box().lines[-1][-20:], "Abort, Retry, Ignore")
-        keys("Escape")  # is no answer
         time.sleep(1)
         os.rmdir(DATA)
         keys("r")  # Retry
