@@ -21,7 +21,9 @@ class Runs(Road):
         self.assertEqual(os.stat(APP + "DebugLog.TXT"), log)
         self.assertFalse(os.path.exists(DATA))
         program.kill()
+        begin = time.monotonic()
         program = self.run_program()
+        self.assertLess(time.monotonic() - begin, 3.5)  # a key ends the splash
         for tool, title in (("6 from 49", "6 From 49"), ("Favorites", "Favorites")):
             program.tool(tool)
             program.page(title)

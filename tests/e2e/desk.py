@@ -180,8 +180,8 @@ class Program:
     def page(self, title):
         """The page in front, once it has the title."""
         title = "Quor Vanta  - " + title
-        return Page(until(lambda: next(page for page in self.pages()
-                                       if page.get_name() == title and has(page, "FOCUSED")), title))
+        return Page(until(lambda: next(page for page in self.pages() if page.get_name() == title
+                                       and has(page, "FOCUSED")), title))
 
     def menus(self):
         """The menu bar: each menu with its entries, a separator as a dash."""
