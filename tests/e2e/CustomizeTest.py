@@ -55,7 +55,7 @@ class Customize(Road):
         until(lambda: len(page.drawn()) == 6, "a draw from row 1")
         self.assertEqual(page.pool(), PICKS)
 
-    def test_rows_are_deleted_after_yes_alone_and_swapped_in_shift_mode(self):
+    def test_rows_are_deleted_after_yes_alone_and_shift_mode_ends_on_the_page_only(self):
         rows = [row(r, r, 11, 12, 13, 14, 15, 16) for r in range(1, 4)]
         self.write_data("", "", "", "[StammNumbers]", *rows)
         program, page = self.open()
