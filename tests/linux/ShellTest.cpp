@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <sys/wait.h>
 #include <thread>
 
 namespace {
@@ -25,13 +26,18 @@ struct Shell : testing::Test {
     }
 };
 
-TEST_F(Shell, GivesTheOpenerTheAddressAsItStands) {
-    opener("#!/bin/sh\ncd \"${0%/*}\"; printf '%s|' \"$@\" >new; /bin/mv new noted\n");
+TEST_F(Shell, GivesTheOpenerTheAddressAsItStandsAndLeavesItAlone) {
+    opener("#!/bin/sh\necho out; echo err >&2; cd \"${0%/*}\"\n"
+           "printf '%s|' \"$@\" >new; /bin/mv new noted; exec /bin/sleep 2\n");
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
     const std::string address = "https://a.example/?q=$(touch${IFS}hit)&`id`;'\"|*>x#%20";
     EXPECT_GT(open(address), platform::kShellFailure);
     for (int i = 0; i < 500 && !fs::exists(files.path("noted")); ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     EXPECT_EQ(files.content("noted"), address + "|");
+    EXPECT_EQ(testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
 }
 
 TEST_F(Shell, TellsWhyNothingWasOpened) {
