@@ -14,9 +14,9 @@
 #include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QTableView>
+#include <QTest>
 #include <QTimer>
 
 #include <chrono>
@@ -79,13 +79,13 @@ double millisecondsUntil(const std::function<void()>& action, const std::functio
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
+// Through the window, as the system's own clicks come.
 void postClick(QWidget* widget, QPoint at) {
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
-        QCoreApplication::postEvent(
-            widget,
-            new QMouseEvent(type, at, widget->mapToGlobal(at), Qt::LeftButton,
-                            type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                            Qt::NoModifier));
+    const auto click = [widget, at] {
+        const QWidget* const window = widget->window();
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, at));
+    };
+    QMetaObject::invokeMethod(widget, click, Qt::QueuedConnection);
 }
 
 using Board = toolkit::ControlArray<toolkit::Label>;
