@@ -1,4 +1,4 @@
-"""The page "Bankroll", kept by a German user."""
+"""The page "Bankroll", kept by a German user, and once by an American too."""
 
 import time
 
@@ -8,10 +8,36 @@ BOXES = ["Date Started", "Total Amount of Bets", "Winnings", "Largest Win"]
 
 
 class Bankroll(Road):
-    def open(self):
-        program = self.run_program(locale="de_DE.UTF-8")
+    def open(self, locale="de_DE"):
+        program = self.run_program(locale=locale + ".UTF-8")
         program.tool("Bankroll")
         return program, program.page("Bankroll")
+
+    def test_the_balance_follows_the_bets_and_is_there_again_at_the_next_start(self):
+        for locale, date, typed, shown in (
+                ("en_US", "7/25/2005", ("1250.5", "-749.5"),
+                 ["1,250.50", "2,000.00", "500.00", "270.50", "250.50", "-749.50"]),
+                ("de_DE", "25.07.2005", ("1250,5", "-749,5"),
+                 ["1.250,50", "2.000,00", "500,00", "270,50", "250,50", "-749,50"])):
+            won, bets, largest, *balances = shown
+            self.write_data("[Win/Loss]", "Win:" + typed[0], "Loss:980", "Large:500", "Date:" + date)
+            program, page = self.open(locale)
+            label = page["label", balances[0]]
+            click(page["text", BOXES[1]])
+            for amount, balance in (("1000", balances[1]), ("2000", balances[2])):
+                keys(*amount, "Tab")
+                until(lambda: label.get_name() == balance, balance)
+                keys("shift+Tab")
+            click(page["text", BOXES[3]])
+            keys(*"77")  # not left, so not kept
+            program.end()
+            self.assertEqual(self.data()[29:34], ["Win:" + typed[0], "Loss:2000", "Bal:" + typed[1],
+                                                  "Large:500", "Date:" + date])
+            program, page = self.open(locale)
+            self.assertEqual([Atspi.Text.get_text(page["text", name], 0, -1) for name in BOXES],
+                             [date, bets, won, largest])
+            self.assertTrue(shows(RED, [page["label", balances[2]]])[0])
+            program.end()
 
     def test_amounts_are_kept_in_the_users_form_and_refused_where_they_are_none(self):
         self.write_data("[Win/Loss]", "Win:1250,5", "Loss:980", "Large:500", "Date:25.07.2005")
