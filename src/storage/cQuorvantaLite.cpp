@@ -112,6 +112,18 @@ void takeWinLoss(std::string_view line) {
         gstrBankrollDate = locale.fromBytes(line.substr(kDatePrefix.size()));
 }
 
+// False at the end of the file. A read that fails again right behind one that was passed over is
+// the end too: what gives nothing more would otherwise be asked about for ever.
+bool readLine(platform::InputFile& file, std::string& line, bool passedOver) {
+    try {
+        return file.readLine(line);
+    } catch (...) {
+        if (!passedOver)
+            throw;
+        return false;
+    }
+}
+
 // Stores what the line holds in its section. A line that holds nothing is none of our business.
 void takeLine(Section section, const std::string& line) {
     switch (section) {
@@ -199,10 +211,11 @@ void cQuorvantaLite::ReadLottoFile() {
 
         Section section = Section::None;
         std::string line;
-        for (;;) {
+        for (bool passedOver = false;;) {
             std::optional<bool> read; // nothing if the step was passed over
-            step([&] { read = file->readLine(line); });
-            if (!read)
+            step([&] { read = readLine(*file, line, passedOver); });
+            passedOver = !read;
+            if (passedOver)
                 continue;
             if (!*read)
                 return;

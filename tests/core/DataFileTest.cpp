@@ -2,6 +2,8 @@
 #include "storage/cQuorvantaLite.h"
 #include "tests/support/ProgramTest.h"
 
+#include <set>
+
 namespace {
 
 using namespace quorvanta;
@@ -85,6 +87,26 @@ TEST_F(DataFile, LineThatFailsIsReportedAndPassedOverOnIgnore) {
     }
     read("[Win/Loss]\rWin:\rDate:x"); // to which the answer is Abort
     EXPECT_EQ(gstrBankrollDate, "");
+}
+
+TEST_F(DataFile, ReadThatFailsAgainRightBehindAnIgnoredOneEndsTheFile) {
+    const std::tuple<std::set<int>, std::deque<int>, std::string, std::size_t> cases[] = {
+        // the reads that fail, the answers, the rows read and the reports
+        {{2, 4}, {Ignore, Ignore}, "abc", 2},
+        {{2, 3, 4}, {Retry, Retry, Ignore}, "abc", 3},
+        {{3, 4}, {Ignore}, "a", 1},
+    };
+    for (const auto& [failing, answers, rows, reports] : cases) {
+        os.files.fault = [&, count = 0](const std::string& operation, const auto&) mutable {
+            if (operation == "readLine" && failing.contains(++count))
+                throw platform::RuntimeError(platform::DeviceError);
+        };
+        desk.answers = answers;
+        gstrFavorites.fill("");
+        read("[Favorites]\r1.a\r2.b\r3.c");
+        EXPECT_EQ(gstrFavorites[1] + gstrFavorites[2] + gstrFavorites[3], rows);
+        EXPECT_EQ(desk.takeReports(), Texts(reports, "57 ReadLottoFile"));
+    }
 }
 
 } // namespace
