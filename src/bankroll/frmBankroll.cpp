@@ -99,8 +99,7 @@ void frmBankroll::SetFormProperties() {
         step([&] { findCalculator(gstrWinDirectory); });
         step([&] { findCalculator(gstrWinSysDirectory); });
         step([&] { cmdCalc.Visible = !mstrCalcPath.empty(); });
-        step([&] { txtWin(kDate).Tag = gstrBankrollDate; });
-        step([&] { txtWin(kDate).Text = gstrBankrollDate; });
+        step([&] { fillDate(gstrBankrollDate); });
         for (const int index : {2, 1, 3})
             step([&] { txtWin(index).Text = CStr(valueOf(index)); });
         for (int index = kDate; index <= kMoneyBoxes; ++index)
@@ -122,7 +121,11 @@ void frmBankroll::findCalculator(const std::string& directory) {
 void frmBankroll::txtWin_GotFocus(int Index) {
     SelectAllText();
     if (Index == kDate && txtWin(kDate).Text.get().empty())
-        txtWin(kDate).Text = today();
+        fillDate(today());
+}
+
+void frmBankroll::fillDate(const std::string& text) {
+    txtWin(kDate).Text = txtWin(kDate).Tag = text;
 }
 
 void frmBankroll::txtWin_LostFocus(int Index) {
@@ -131,19 +134,17 @@ void frmBankroll::txtWin_LostFocus(int Index) {
         if (box.Text.get().empty())
             return;
         if (Index == kDate) {
-            const std::string left = box.Text;
+            const bool typed = box.Text.get() != box.Tag;
             std::optional<platform::DateTime> date;
-            step([&] { date = ReadDate(left); });
+            step([&] { date = ReadDate(box.Text.get()); });
             if (!date) {
                 step([&] { msgEnterDate(); });
                 step([&] { date = platform::current().clock.now(); });
-                step([&] { box.Text = today(); });
+                step([&] { fillDate(today()); });
             }
-            // A stored date stays as it is until the user leaves the box with another text.
-            if (date && left != box.Tag) {
+            if (typed && date)
                 step([&] { gstrBankrollDate = ShortDate(*date); });
-                step([&] { box.Tag = box.Text; });
-            }
+            step([&] { box.Tag = box.Text; });
         } else {
             std::optional<double> amount;
             step([&] { amount = ReadNumber(box.Text.get()); });

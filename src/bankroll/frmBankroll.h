@@ -16,7 +16,7 @@ public:
     toolkit::Frame fraBankroll{*this, "fraBankroll", "Bankroll", {120, 120, 3780, 2295}};
     toolkit::ControlArray<toolkit::Label> lbl1{*this, "lbl1"}; // 51 to 55
     // 0 the date, 1 the winnings, 2 the bets, 3 the largest win. The Tag of the date box is the
-    // text that it was filled with or left with last.
+    // text that the page put in or that it was left with last: only another one is the user's.
     toolkit::ControlArray<toolkit::TextBox> txtWin{*this, "txtWin"};
     toolkit::Label lblBalance{fraBankroll, "lblBalance", {}, {195, 1710, 1785, 285}};
     toolkit::CommandButton cmdCancel{*this, "cmdCancel", "Close", {120, 2520, 1530, 495}};
@@ -50,6 +50,7 @@ private:
 
     void SetFormProperties();
     void findCalculator(const std::string& directory);
+    void fillDate(const std::string& text);
 
     std::string mstrCalcPath; // of the calculator, empty where there is none
 };

@@ -79,8 +79,8 @@ TEST_F(BankrollPageTest, OpeningRoundsTheAmountsButNeverChangesTheStoredDate) {
     EXPECT_EQ(desk.takeBoxes(), Texts{kEnterDate});
     EXPECT_EQ(shown(), "7/25/2005(25.3.2005) 1.01 980.00 500.00 -978.99 red");
     EXPECT_EQ(gdblWin, 1.01);
-    page->txtWin(1).SetFocus(); // the user leaves the box with another text than the stored one
-    EXPECT_EQ(gstrBankrollDate, "7/25/2005");
+    page->txtWin(1).SetFocus(); // the user has seen today's date, which the page has put in
+    EXPECT_EQ(gstrBankrollDate, "25.3.2005");
 
     userClick(page->cmdCancel);
     gdblWin = gdblLoss = gdblLargest = 0;
@@ -93,7 +93,11 @@ TEST_F(BankrollPageTest, OpeningRoundsTheAmountsButNeverChangesTheStoredDate) {
     EXPECT_EQ(gstrBankrollDate, "");
     page->txtWin(2).SetFocus();
     EXPECT_EQ(page->txtWin(2).SelLength, 4);
-    EXPECT_EQ(gstrBankrollDate, "7/25/2005");
+    EXPECT_EQ(gstrBankrollDate, "");
+    page->txtWin(0).Text = "7/24/2005"; // the user's own
+    page->txtWin(0).SetFocus();
+    page->txtWin(2).SetFocus();
+    EXPECT_EQ(gstrBankrollDate, "7/24/2005");
     EXPECT_TRUE(desk.boxes.empty());
 }
 
