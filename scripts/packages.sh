@@ -7,6 +7,9 @@ test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     printer-driver-cups-pdf poppler-utils desktop-file-utils appstream libglib2.0-bin
     gtk-update-icon-cache galculator at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
     "${display_packages[@]}")
+# The cross compiler, Wine to run what it makes, and what its windows need.
+windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine
+    fonts-liberation locales "${display_packages[@]}")
 check_packages=(clang-format)
 
 # Installs those of the named packages that are missing, through sudo where not root.
