@@ -2,12 +2,13 @@
 
 #include "common/FormRoutines.h"
 #include "common/Trap.h"
+#include "lists/Keypad.h"
 #include "lists/cFlexGrid.h"
 #include "numbers/cLotto.h"
 
-#include <array>
 #include <cmath>
 #include <string>
+#include <vector>
 
 namespace quorvanta {
 
@@ -59,7 +60,11 @@ ListPage::ListPage(const Design& design)
                  [this] { mnuWebsite_Click(*this); }),
       design_(design) {
     KeyPreview = true;
-    buildKeypad();
+    buildKeypad(frKeys, cmdKey);
+    cmdKey.Click = [this](int Index) {
+        grd1.Row = 0;
+        pickNumber(Index);
+    };
     cmdReset.ToolTipText = "Resets the Keypad";
     cmdReset.Click = [this] { cmdReset_Click(); };
     cmdCopy.ToolTipText = "Copies numbers to Custom Numbers";
@@ -70,22 +75,6 @@ ListPage::ListPage(const Design& design)
     grd1.Click = [this] { grd1_Click(); };
     grd1.DblClick = [this] { grd1_DblClick(); };
     grd1.LostFocus = [this] { leaveShiftMode(); };
-}
-
-void ListPage::buildKeypad() {
-    static constexpr std::array<double, 7> kLeft{90, 630, 1170, 1725, 2280, 2820, 3360};
-    cmdKey.load(0, frKeys).Visible = false; // so that each key's index is its number
-    for (int n = 1; n <= kNumbers; ++n) {
-        const int line = (n - 1) / 7;
-        const double left = kLeft.at(static_cast<std::size_t>((n - 1) % 7));
-        const double top = 255 + line * 345;
-        auto& key = cmdKey.load(n, frKeys, std::to_string(n), toolkit::Place{left, top, 510, 315});
-        key.speaksPicks = true;
-    }
-    cmdKey.Click = [this](int Index) {
-        grd1.Row = 0;
-        pickNumber(Index);
-    };
 }
 
 void ListPage::setTabOrder(std::initializer_list<toolkit::Control*> controls) {
@@ -147,14 +136,6 @@ void ListPage::toggleKey(const char* label, int number) {
     });
 }
 
-std::vector<int> ListPage::pickedNumbers() const {
-    std::vector<int> numbers;
-    for (int n = 1; n <= kNumbers; ++n)
-        if (cmdKey(n).FontBold)
-            numbers.push_back(n);
-    return numbers;
-}
-
 bool ListPage::fileRow(const char* label, int atLeast, void (*rowsAreFull)(), void (*tooFew)()) {
     bool filed = false;
     trapped(label, [&](auto step) {
@@ -163,7 +144,7 @@ bool ListPage::fileRow(const char* label, int atLeast, void (*rowsAreFull)(), vo
         step([&] { row = firstFreeRow(grd1); });
         if (row == 0)
             return rowsAreFull();
-        step([&] { numbers = pickedNumbers(); });
+        step([&] { numbers = pickedNumbers(cmdKey); });
         if (static_cast<int>(numbers.size()) < atLeast)
             return tooFew();
         int column = 1;

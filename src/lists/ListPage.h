@@ -13,7 +13,6 @@
 
 #include <functional>
 #include <initializer_list>
-#include <vector>
 
 namespace quorvanta {
 
@@ -91,7 +90,6 @@ protected:
     using Step = std::function<void(const std::function<void()>&)>;
     void writeHeaders(const Step& step);
     void halveColumns(const Step& step);
-    std::vector<int> pickedNumbers() const; // in rising order
     void setTabOrder(std::initializer_list<toolkit::Control*> controls);
 
     // Shift mode: two rows, picked one after the other, change places.
@@ -103,7 +101,6 @@ protected:
     int mintSecondRow = 0;
 
 private:
-    void buildKeypad();
     void pickRow();
 
     const Design& design_;

@@ -1,6 +1,7 @@
 #include "lists/frmCustomize6.h"
 
 #include "common/Trap.h"
+#include "numbers/Board.h"
 #include "numbers/cLotto.h"
 
 #include <string>
@@ -10,6 +11,14 @@ namespace quorvanta {
 namespace {
 
 constexpr int kLeastNumbers = kDrawn + 1; // a row holds more numbers than a draw takes
+
+constexpr BoardDesign kBoard{.frame = {120, 105, 3705, 3390},
+                             .labels = {.lefts = {60, 570, 1080, 1590, 2100, 2610, 3120},
+                                        .firstTop = 165,
+                                        .lineHeight = 450,
+                                        .width = 510,
+                                        .height = 435},
+                             .fontSize = 14.25};
 
 const ListPage::Design& design() {
     static const ListPage::Design it{.name = "frmCustomize6",
@@ -40,29 +49,12 @@ const ListPage::Design& design() {
 } // namespace
 
 frmCustomize6::frmCustomize6() : FormOf(design()) {
-    buildBoard();
+    buildBoard(*this, fra2, 1, Label1, kBoard);
     setTabOrder({&fra2(1), &frKeys, &cmdReset, &cmdAll, &cmdCopy, &grd1, &cmdCancel, &cmdJackpot});
     cmdAll.Click = [this] { SetAllNumbers(); };
     cmdJackpot.Click = [this] { GoCustomJackPot(kDraw); };
     mnuCustomize.Enabled = false; // it would show the page that it stands on
     mnuJackpotGenerator.Shortcut = "F5";
-}
-
-void frmCustomize6::buildBoard() {
-    auto& frame = fra2.load(1, *this, "", toolkit::Place{120, 105, 3705, 3390});
-    frame.spokenAs = "Board";
-    for (int n = 1; n <= kNumbers; ++n) {
-        const int line = (n - 1) / 7;
-        const double left = 60 + (n - 1) % 7 * 510;
-        const double top = 165 + line * 450;
-        auto& label = Label1.load(n, frame, std::to_string(n), toolkit::Place{left, top, 510, 435});
-        label.BackColor = toolkit::kWhite;
-        label.ForeColor = toolkit::kBlack;
-        label.BorderStyle = true;
-        label.TextAlign = toolkit::Alignment::Centre;
-        label.design = {.name = "Arial", .size = 14.25};
-        label.speaksMarks = true;
-    }
 }
 
 void frmCustomize6::SetFormProperties() {

@@ -44,8 +44,6 @@ private:
     static constexpr int kShow = 0; // the modes of GoCustomJackPot
     static constexpr int kDraw = 1;
 
-    void buildBoard();
-
     void SetFormProperties();
     void SetCustomizeUDTs();
     void GetCustomizeUDTs();

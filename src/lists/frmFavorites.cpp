@@ -1,6 +1,7 @@
 #include "lists/frmFavorites.h"
 
 #include "common/Trap.h"
+#include "lists/Keypad.h"
 
 namespace quorvanta {
 
@@ -68,7 +69,7 @@ void frmFavorites::SetFavoriteNumbers(int Index) {
     trapped("frmFavorites.SetFavoriteNumbers", [&](auto step) {
         int others = 0;
         step([&] {
-            const auto picked = static_cast<int>(pickedNumbers().size());
+            const auto picked = static_cast<int>(pickedNumbers(cmdKey).size());
             others = cmdKey(Index).FontBold ? picked - 1 : picked;
         });
         if (others < kMostNumbers)

@@ -11,15 +11,13 @@
 // draw is kept nowhere but in the colours of the board.
 #pragma once
 
+#include "frame/modConstants.h"
 #include "toolkit/ControlArray.h"
 #include "toolkit/MSFlexGrid.h"
 
 #include <memory>
 
 namespace quorvanta {
-
-inline constexpr int kNumbers = 49;
-inline constexpr int kDrawn = 6; // of a custom draw
 
 class cLotto {
 public:

@@ -5,6 +5,7 @@
 #include "common/Trap.h"
 #include "common/UserSetting.h"
 #include "frame/Shared.h"
+#include "numbers/Board.h"
 #include "numbers/cLotto.h"
 
 #include <array>
@@ -13,6 +14,14 @@
 namespace quorvanta {
 
 namespace {
+
+constexpr BoardDesign kBoard{.frame = {120, 270, 4560, 4590},
+                             .labels = {.lefts = {75, 690, 1320, 1950, 2580, 3210, 3840},
+                                        .firstTop = 150,
+                                        .lineHeight = 630,
+                                        .width = 615,
+                                        .height = 615},
+                             .fontSize = 24};
 
 struct System {
     const char* caption;
@@ -36,7 +45,7 @@ constexpr const char* kSystemKey = "system";
 
 frmMain::frmMain() : FormOf(Kind::MDIChild, "frmMain", 6825, 5265) {
     MinButton = true;
-    buildBoard();
+    buildBoard(*this, fra2, 0, lbl1, kBoard);
     buildSystems();
     cmdCancel.TabIndex = kSystemCount;
     cmdJackpot.TabIndex = kSystemCount + 1;
@@ -47,22 +56,6 @@ frmMain::frmMain() : FormOf(Kind::MDIChild, "frmMain", 6825, 5265) {
     mnuJackpot.Shortcut = "F5";
     opt1.Click = [this](int Index) { opt1_Click(Index); };
     mnuSystemPlay.Click = [this](int Index) { mnuSystemPlay_Click(Index); };
-}
-
-void frmMain::buildBoard() {
-    auto& frame = fra2.load(0, *this, "", toolkit::Place{120, 270, 4560, 4590});
-    frame.spokenAs = "Board";
-    for (int n = 1; n <= kNumbers; ++n) {
-        const double left = 75.0 + (n - 1) % 7 * 630 - ((n - 1) % 7 > 0 ? 15 : 0);
-        const double top = 150.0 + (n - 1) / 7 * 630;
-        auto& label = lbl1.load(n, frame, std::to_string(n), toolkit::Place{left, top, 615, 615});
-        label.BackColor = toolkit::kWhite;
-        label.ForeColor = toolkit::kBlack;
-        label.BorderStyle = true;
-        label.TextAlign = toolkit::Alignment::Centre;
-        label.design = {.name = "Arial", .size = 24};
-        label.speaksMarks = true;
-    }
 }
 
 void frmMain::buildSystems() {

@@ -45,7 +45,6 @@ protected:
     void Form_Load() override;
 
 private:
-    void buildBoard();
     void buildSystems();
 
     void cmdJackpot_Click();
