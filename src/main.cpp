@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
     platform::LinuxSettings settings;
     platform::LinuxFiles files;
     platform::LinuxLocale locale;
-    platform::LinuxMachine machine(locale);
+    platform::LinuxMachine machine;
     platform::LinuxShell shell;
     desktop_qt::QtDesktop desktop(argc, argv);
     toolkit::install(&desktop);

@@ -1,6 +1,7 @@
 #include "common/cLocalSettings.h"
 
 #include "common/Conversions.h"
+#include "common/SystemBuffer.h"
 #include "common/Trap.h"
 #include "platform/Platform.h"
 
@@ -16,23 +17,22 @@ std::string asText(const std::string& bytes) {
     return platform::current().locale.fromBytes(bytes);
 }
 
-std::string nameFrom(bool (platform::Machine::*ask)(char*, int) const) {
+using Question = std::optional<std::string> (platform::Machine::*)() const;
+
+std::string nameFrom(Question ask) {
     std::string buffer(256, '\0');
-    (platform::current().machine.*ask)(buffer.data(), static_cast<int>(buffer.size()));
+    fill(buffer, (platform::current().machine.*ask)());
     return asText(cLocalSettings::StringFromBuffer(buffer));
 }
 
-std::string directoryFrom(int (platform::Machine::*ask)(char*, int) const, const char* label) {
+std::string directoryFrom(Question ask, const char* label) {
     std::string directory;
     trapped(label, [&](auto step) {
         std::string buffer(255, ' ');
-        int length = 0;
+        int count = 0;
+        step([&] { count = fill(buffer, (platform::current().machine.*ask)()); });
         step([&] {
-            length =
-                (platform::current().machine.*ask)(buffer.data(), static_cast<int>(buffer.size()));
-        });
-        step([&] {
-            if (length != 0)
+            if (count != 0)
                 directory = asText(cLocalSettings::StringFromBuffer(buffer));
         });
     });
@@ -52,7 +52,7 @@ std::string cLocalSettings::prpComputerName() {
 }
 
 std::string cLocalSettings::prpMetrics() {
-    const std::string value = localeText(platform::LOCALE_IMEASURE);
+    const std::string value = read(platform::LOCALE_IMEASURE);
     const double system = CDbl(value);
     if (system == 0)
         return "Metric";
@@ -64,10 +64,11 @@ std::string cLocalSettings::StringFromBuffer(std::string_view buffer) {
     return std::string(buffer.substr(0, end == std::string_view::npos ? 0 : end));
 }
 
-std::string cLocalSettings::localeText(platform::LocaleItem item) {
-    const int length = platform::current().locale.GetLocaleInfoA(
-        platform::LOCALE_USER_DEFAULT, item, mstrBuffer.data(), kBufferLength);
-    mstrLocaleLength = std::to_string(length);
+std::string cLocalSettings::read(platform::LocaleItem item) {
+    const platform::Locale& locale = platform::current().locale;
+    const int count = fill(std::span(mstrBuffer).first<kBufferLength>(),
+                           locale.GetLocaleInfoA(platform::LOCALE_USER_DEFAULT, item));
+    mstrLocaleLength = std::to_string(count);
     mstrLocaleValue = StringFromBuffer({mstrBuffer.data(), mstrBuffer.size()});
     const auto rest = std::copy(mstrLocaleValue.begin(), mstrLocaleValue.end(), mstrBuffer.begin());
     std::fill(rest, mstrBuffer.end(), ' ');

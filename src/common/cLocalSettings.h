@@ -20,56 +20,50 @@ public:
     void prpComputerName(const std::string& name) { mvarComputerName = name; }
     std::string prpComputerName();
 
-    std::string prpCenturyFormatSpecificer() { return localeText(platform::LOCALE_ICENTURY); }
-    std::string prpTimeFormatSpecifier() { return localeText(platform::LOCALE_ITIME); }
-    std::string prpLongDateFormatOrdering() { return localeText(platform::LOCALE_ILDATE); }
-    std::string prpShortDateFormatOrdering() { return localeText(platform::LOCALE_IDATE); }
-    std::string prpTimeFormat() { return localeText(platform::LOCALE_STIMEFORMAT); }
-    std::string prpLongDateFormat() { return localeText(platform::LOCALE_SLONGDATE); }
-    std::string prpShortDateFormat() { return localeText(platform::LOCALE_SSHORTDATE); }
-    std::string prpTimeSeperator() { return localeText(platform::LOCALE_STIME); }
-    std::string prpDateSeperator() { return localeText(platform::LOCALE_SDATE); }
-    std::string prpNegativeCurrencyMode() { return localeText(platform::LOCALE_INEGCURR); }
-    std::string prpPositiveMonetaryMode() { return localeText(platform::LOCALE_ICURRENCY); }
-    std::string prpIntlMonetaryDigits() { return localeText(platform::LOCALE_IINTLCURRDIGITS); }
-    std::string prpLocalMonetaryDigits() { return localeText(platform::LOCALE_ICURRDIGITS); }
-    std::string prpMonetaryGrouping() { return localeText(platform::LOCALE_SMONGROUPING); }
-    std::string prpMonetaryThousandSeperator() {
-        return localeText(platform::LOCALE_SMONTHOUSANDSEP);
-    }
-    std::string prpMonetaryDecimalSeperator() {
-        return localeText(platform::LOCALE_SMONDECIMALSEP);
-    }
-    std::string prpIntlMonetarySymbol() { return localeText(platform::LOCALE_SINTLSYMBOL); }
-    std::string prpLocalCurrencySymbol() { return localeText(platform::LOCALE_SCURRENCY); }
-    std::string prpNativeAscii() { return localeText(platform::LOCALE_SNATIVEDIGITS); }
-    std::string prpLeadingZeros() { return localeText(platform::LOCALE_ILZERO); }
-    std::string prpFractionalDigits() { return localeText(platform::LOCALE_IDIGITS); }
-    std::string prpDigitGrouping() { return localeText(platform::LOCALE_SGROUPING); }
-    std::string prpThousandSeperator() { return localeText(platform::LOCALE_STHOUSAND); }
-    std::string prpDecimalSeperator() { return localeText(platform::LOCALE_SDECIMAL); }
+    std::string prpCenturyFormatSpecificer() { return read(platform::LOCALE_ICENTURY); }
+    std::string prpTimeFormatSpecifier() { return read(platform::LOCALE_ITIME); }
+    std::string prpLongDateFormatOrdering() { return read(platform::LOCALE_ILDATE); }
+    std::string prpShortDateFormatOrdering() { return read(platform::LOCALE_IDATE); }
+    std::string prpTimeFormat() { return read(platform::LOCALE_STIMEFORMAT); }
+    std::string prpLongDateFormat() { return read(platform::LOCALE_SLONGDATE); }
+    std::string prpShortDateFormat() { return read(platform::LOCALE_SSHORTDATE); }
+    std::string prpTimeSeperator() { return read(platform::LOCALE_STIME); }
+    std::string prpDateSeperator() { return read(platform::LOCALE_SDATE); }
+    std::string prpNegativeCurrencyMode() { return read(platform::LOCALE_INEGCURR); }
+    std::string prpPositiveMonetaryMode() { return read(platform::LOCALE_ICURRENCY); }
+    std::string prpIntlMonetaryDigits() { return read(platform::LOCALE_IINTLCURRDIGITS); }
+    std::string prpLocalMonetaryDigits() { return read(platform::LOCALE_ICURRDIGITS); }
+    std::string prpMonetaryGrouping() { return read(platform::LOCALE_SMONGROUPING); }
+    std::string prpMonetaryThousandSeperator() { return read(platform::LOCALE_SMONTHOUSANDSEP); }
+    std::string prpMonetaryDecimalSeperator() { return read(platform::LOCALE_SMONDECIMALSEP); }
+    std::string prpIntlMonetarySymbol() { return read(platform::LOCALE_SINTLSYMBOL); }
+    std::string prpLocalCurrencySymbol() { return read(platform::LOCALE_SCURRENCY); }
+    std::string prpNativeAscii() { return read(platform::LOCALE_SNATIVEDIGITS); }
+    std::string prpLeadingZeros() { return read(platform::LOCALE_ILZERO); }
+    std::string prpFractionalDigits() { return read(platform::LOCALE_IDIGITS); }
+    std::string prpDigitGrouping() { return read(platform::LOCALE_SGROUPING); }
+    std::string prpThousandSeperator() { return read(platform::LOCALE_STHOUSAND); }
+    std::string prpDecimalSeperator() { return read(platform::LOCALE_SDECIMAL); }
 
     // "Metric" or "US". Raises TypeMismatch where the platform has no answer.
     std::string prpMetrics();
 
-    std::string prpListItemSeperator() { return localeText(platform::LOCALE_SLIST); }
-    std::string prpDefaultCodePage() { return localeText(platform::LOCALE_IDEFAULTCODEPAGE); }
-    std::string prpDefaultCountryCode() { return localeText(platform::LOCALE_IDEFAULTCOUNTRY); }
-    std::string prpDefaultLanguageId() { return localeText(platform::LOCALE_IDEFAULTLANGUAGE); }
-    std::string prpNativeNameOfCountry() { return localeText(platform::LOCALE_SNATIVECTRYNAME); }
-    std::string prpAbbrevCountryName() { return localeText(platform::LOCALE_SABBREVCTRYNAME); }
-    std::string prpEnglishNameOfCountry() { return localeText(platform::LOCALE_SENGCOUNTRY); }
-    std::string prpLocalizedNameOfCountry() { return localeText(platform::LOCALE_SCOUNTRY); }
-    std::string prpCountryCode() { return localeText(platform::LOCALE_ICOUNTRY); }
-    std::string prpNativeNameOfLanguage() { return localeText(platform::LOCALE_SNATIVELANGNAME); }
-    std::string prpAbbreviatedLanguageName() {
-        return localeText(platform::LOCALE_SABBREVLANGNAME);
-    }
-    std::string prpLanguageId() { return localeText(platform::LOCALE_ILANGUAGE); }
-    std::string prpLocalLanguageName() { return localeText(platform::LOCALE_SLANGUAGE); }
-    std::string prpLocalLanguageEnglishName() { return localeText(platform::LOCALE_SENGLANGUAGE); }
-    std::string prpLocalCurrency() { return localeText(platform::LOCALE_SCURRENCY); }
-    std::string prpLocalCountry() { return localeText(platform::LOCALE_SENGCOUNTRY); }
+    std::string prpListItemSeperator() { return read(platform::LOCALE_SLIST); }
+    std::string prpDefaultCodePage() { return read(platform::LOCALE_IDEFAULTCODEPAGE); }
+    std::string prpDefaultCountryCode() { return read(platform::LOCALE_IDEFAULTCOUNTRY); }
+    std::string prpDefaultLanguageId() { return read(platform::LOCALE_IDEFAULTLANGUAGE); }
+    std::string prpNativeNameOfCountry() { return read(platform::LOCALE_SNATIVECTRYNAME); }
+    std::string prpAbbrevCountryName() { return read(platform::LOCALE_SABBREVCTRYNAME); }
+    std::string prpEnglishNameOfCountry() { return read(platform::LOCALE_SENGCOUNTRY); }
+    std::string prpLocalizedNameOfCountry() { return read(platform::LOCALE_SCOUNTRY); }
+    std::string prpCountryCode() { return read(platform::LOCALE_ICOUNTRY); }
+    std::string prpNativeNameOfLanguage() { return read(platform::LOCALE_SNATIVELANGNAME); }
+    std::string prpAbbreviatedLanguageName() { return read(platform::LOCALE_SABBREVLANGNAME); }
+    std::string prpLanguageId() { return read(platform::LOCALE_ILANGUAGE); }
+    std::string prpLocalLanguageName() { return read(platform::LOCALE_SLANGUAGE); }
+    std::string prpLocalLanguageEnglishName() { return read(platform::LOCALE_SENGLANGUAGE); }
+    std::string prpLocalCurrency() { return read(platform::LOCALE_SCURRENCY); }
+    std::string prpLocalCountry() { return read(platform::LOCALE_SENGCOUNTRY); }
 
     // Where programs are looked for.
     std::string prpWinDirectory() { return GetWindowsDir(); }
@@ -80,7 +74,7 @@ public:
     static std::string StringFromBuffer(std::string_view buffer);
 
 private:
-    std::string localeText(platform::LocaleItem item);
+    std::string read(platform::LocaleItem item);
     std::string GetWindowsDir();
     std::string GetWindowsSysDir();
 

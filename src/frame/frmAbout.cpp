@@ -2,6 +2,7 @@
 
 #include "common/FormRoutines.h"
 #include "common/MakerSite.h"
+#include "common/SystemBuffer.h"
 #include "common/Trap.h"
 #include "common/cInternet.h"
 #include "common/cLocalSettings.h"
@@ -86,7 +87,9 @@ void frmAbout::Form_Load() {
 void frmAbout::NameUser() {
     failuresOff([&](auto step) {
         std::string buffer(200, '\0');
-        step([&] { platform::current().machine.GetUserNameA(buffer.data(), 199); });
+        step([&] {
+            fill(std::span(buffer).first(199), platform::current().machine.GetUserNameA());
+        });
         step([&] {
             lblUser.Caption =
                 platform::current().locale.fromBytes(cLocalSettings::StringFromBuffer(buffer));

@@ -1,6 +1,7 @@
 // The user's locale, item by item, and the 8-bit code page of the user's files.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,11 +14,10 @@ class Locale {
 public:
     virtual ~Locale() = default;
 
-    // Fills `buffer`, of `size` characters, with the item's text in the user's code page and a
-    // closing NUL. Gives the count of characters written, the NUL included, or 0 and an untouched
-    // buffer for an item that is unknown or doesn't fit. Items have the published numbers
-    // (LOCALE_SSHORTDATE is 31), and values the published forms ("M/d/yyyy").
-    virtual int GetLocaleInfoA(int locale, int item, char* buffer, int size) const = 0;
+    // The item's text, UTF-8 of characters that the user's code page has, or nothing for an item or
+    // a locale that is unknown. Items have the published numbers (LOCALE_SSHORTDATE is 31), and
+    // values the published forms ("M/d/yyyy").
+    virtual std::optional<std::string> GetLocaleInfoA(int locale, int item) const = 0;
 
     // Text of a file, in the user's code page, as UTF-8, and back. Every byte sequence comes back
     // from toBytes(fromBytes(x)) as it was, also bytes that the code page leaves undefined. A

@@ -5,7 +5,6 @@
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
-#include <cstring>
 #include <deque>
 #include <functional>
 #include <map>
@@ -145,14 +144,6 @@ struct FakeFiles : platform::Files {
     }
 };
 
-// Fills a buffer as the system does; gives the text's length, or 0 if it doesn't fit.
-inline int fill(char* buffer, int size, const std::string& text) {
-    if (static_cast<int>(text.size()) >= size)
-        return 0;
-    std::memcpy(buffer, text.c_str(), text.size() + 1);
-    return static_cast<int>(text.size());
-}
-
 // An American user's locale by default; a test changes the items it wants otherwise. Text is taken
 // for ASCII.
 struct FakeLocale : platform::Locale {
@@ -160,10 +151,9 @@ struct FakeLocale : platform::Locale {
                                      {30, ":"},  {31, "M/d/yyyy"},    {33, "0"}, {40, "AM"},
                                      {41, "PM"}, {4099, "h:mm:ss tt"}};
 
-    int GetLocaleInfoA(int, int item, char* buffer, int size) const override {
+    std::optional<std::string> GetLocaleInfoA(int, int item) const override {
         const auto it = items.find(item);
-        const int length = it == items.end() ? 0 : fill(buffer, size, it->second);
-        return length > 0 ? length + 1 : 0;
+        return it == items.end() ? std::nullopt : std::optional(it->second);
     }
     std::string fromBytes(std::string_view bytes) const override { return std::string(bytes); }
     std::string toBytes(std::string_view text) const override { return std::string(text); }
@@ -172,10 +162,10 @@ struct FakeLocale : platform::Locale {
 struct FakeMachine : platform::Machine {
     std::string user = "leipreir", computer = "OFFICE1", windows = "/usr/bin", system = "/usr/sbin";
 
-    bool GetUserNameA(char* to, int size) const override { return fill(to, size, user); }
-    bool GetComputerNameA(char* to, int size) const override { return fill(to, size, computer); }
-    int GetWindowsDirectoryA(char* to, int size) const override { return fill(to, size, windows); }
-    int GetSystemDirectoryA(char* to, int size) const override { return fill(to, size, system); }
+    std::optional<std::string> GetUserNameA() const override { return user; }
+    std::optional<std::string> GetComputerNameA() const override { return computer; }
+    std::optional<std::string> GetWindowsDirectoryA() const override { return windows; }
+    std::optional<std::string> GetSystemDirectoryA() const override { return system; }
 };
 
 // Keeps what it is asked for.

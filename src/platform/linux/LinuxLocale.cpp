@@ -14,7 +14,6 @@
 #include <unicode/unumsys.h>
 
 #include <cstdio>
-#include <cstring>
 #include <utility>
 
 namespace platform {
@@ -101,7 +100,7 @@ std::string countryOf(const std::string& locale) {
 
 std::string fourHexDigits(unsigned number) {
     char text[16];
-    std::snprintf(text, sizeof text, "%04X", number & 0xFFFF);
+    std::snprintf(text, sizeof text, "%04x", number & 0xFFFF);
     return text;
 }
 
@@ -179,15 +178,11 @@ LinuxLocale::LinuxLocale(LocaleCategories categories)
 
 LinuxLocale::~LinuxLocale() = default;
 
-int LinuxLocale::GetLocaleInfoA(int locale, int item, char* buffer, int size) const {
+std::optional<std::string> LinuxLocale::GetLocaleInfoA(int locale, int item) const {
     if (locale != LOCALE_USER_DEFAULT)
-        return 0;
+        return std::nullopt;
     const std::string& text = itemText(item);
-    const int count = static_cast<int>(text.size()) + 1;
-    if (text.empty() || count > size)
-        return 0;
-    std::memcpy(buffer, text.c_str(), text.size() + 1);
-    return count;
+    return text.empty() ? std::nullopt : std::optional(text);
 }
 
 std::string LinuxLocale::fromBytes(std::string_view bytes) const {
@@ -210,7 +205,7 @@ const std::string& LinuxLocale::itemText(int item) const {
     const auto known = items_.find(item);
     if (known != items_.end())
         return known->second;
-    return items_.emplace(item, toBytes(makeText(item))).first->second;
+    return items_.emplace(item, fromBytes(toBytes(makeText(item)))).first->second;
 }
 
 std::string LinuxLocale::makeText(int item) const {

@@ -24,7 +24,7 @@ public:
     explicit LinuxLocale(LocaleCategories categories = LocaleCategories::fromEnvironment());
     ~LinuxLocale() override;
 
-    int GetLocaleInfoA(int locale, int item, char* buffer, int size) const override;
+    std::optional<std::string> GetLocaleInfoA(int locale, int item) const override;
     std::string fromBytes(std::string_view bytes) const override;
     std::string toBytes(std::string_view text) const override;
 
@@ -47,7 +47,7 @@ private:
     mutable std::unique_ptr<CodePage> codePage_;
     mutable int codePageNumber_ = 0;
     std::unique_ptr<Formats> formats_;
-    mutable std::map<int, std::string> items_; // in the code page
+    mutable std::map<int, std::string> items_;
 };
 
 } // namespace platform

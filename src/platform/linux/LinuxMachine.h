@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Locale.h"
 #include "platform/Machine.h"
 
 namespace platform {
@@ -9,18 +8,12 @@ namespace platform {
 // place of the Windows directory, and /usr/sbin for those of the system.
 class LinuxMachine final : public Machine {
 public:
-    // `locale` knows the user's code page and outlives this object.
-    explicit LinuxMachine(const Locale& locale) : locale_(locale) {}
-
     // The name that the user logs on with, and the computer's name without its domain.
-    bool GetUserNameA(char* buffer, int size) const override;
-    bool GetComputerNameA(char* buffer, int size) const override;
+    std::optional<std::string> GetUserNameA() const override;
+    std::optional<std::string> GetComputerNameA() const override;
 
-    int GetWindowsDirectoryA(char* buffer, int size) const override;
-    int GetSystemDirectoryA(char* buffer, int size) const override;
-
-private:
-    const Locale& locale_;
+    std::optional<std::string> GetWindowsDirectoryA() const override { return "/usr/bin"; }
+    std::optional<std::string> GetSystemDirectoryA() const override { return "/usr/sbin"; }
 };
 
 } // namespace platform
