@@ -259,7 +259,7 @@ bool measure(int turns) {
 int main(int argc, char** argv) {
     const int turns = argc > 1 ? std::atoi(argv[1]) : 200;
     const tests::FakePlatform system;
-    desktop_qt::QtDesktop desktop(argc, argv);
+    desktop_qt::QtDesktop desktop;
     toolkit::install(&desktop);
     MDIForm1::the().Show();
     qApp->installEventFilter(&painted);

@@ -31,6 +31,10 @@ std::unique_ptr<PrinterDevice> Desktop::newPrinterDevice() {
     throw platform::RuntimeError(platform::PrinterError);
 }
 
+std::function<void()> Desktop::waker(std::function<void()> /*event*/) {
+    return [] {};
+}
+
 Desktop& desktop() {
     return *installed;
 }

@@ -2,6 +2,7 @@
 // shows nothing, answers message boxes with their default button, and has no events to run.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -53,6 +54,13 @@ public:
     virtual double screenHeight() { return 0; }
     // Makes ready to print on the system's default printer. Raises PrinterError if there is none.
     virtual std::unique_ptr<PrinterDevice> newPrinterDevice();
+    // Runs the event loop until no form is left. Gives the process's exit code.
+    virtual int run() { return 0; }
+    // Gives a call that has the event loop run `event`, once. It may be made at any moment, from
+    // another thread or within the handler of a signal too.
+    virtual std::function<void()> waker(std::function<void()> event);
+    // Called from the event loop when the user's session ends.
+    std::function<void()> sessionEnds = [] {};
     // No form is left: the event loop ends with the event that runs, unless that shows another.
     virtual void endLoop() {}
 };

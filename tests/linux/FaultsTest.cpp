@@ -2,6 +2,7 @@
 // __wrap_... below in the place of the system calls of the program's code.
 #include "common/ErrorReport.h"
 #include "frame/MainCode_ZW.h"
+#include "platform/linux/LinuxProcess.h"
 #include "storage/cQuorvantaLite.h"
 #include "tests/support/DataFile.h"
 #include "tests/support/RealFiles.h"
@@ -67,6 +68,7 @@ FAULTY(int, link, (const char* from, const char* to), from, to)
 FAULTY(int, unlink, (const char* path), path)
 FAULTY(int, chdir, (const char* path), path)
 FAULTY(int, faccessat, (int at, const char* path, int mode, int flags), at, path, mode, flags)
+FAULTY(int, flock, (int fd, int how), fd, how)
 FAULTY(int, fstat, (int fd, struct stat* result), fd, result)
 FAULTY(int, lstat, (const char* path, struct stat* result), path, result)
 
@@ -237,6 +239,48 @@ TEST(StartFaults, NeverHarmTheFileAndOnlyWhatWasToldIsMissingFromTheRun) {
                 << "to open the file, to look at it, to read it twice and to meet its end";
         }
     toolkit::Form::dropAll();
+}
+
+// A process that starts in the directory, and stays until it is killed.
+struct Instance {
+    int answer[2];
+    pid_t process;
+
+    explicit Instance(const tests::RealFiles& in) {
+        EXPECT_EQ(::pipe(answer), 0);
+        process = ::fork();
+        if (process != 0)
+            return;
+        const char refused = platform::LinuxProcess().prevInstance(in.directory) ? 1 : 0;
+        ::_exit(__real_write(answer[1], &refused, 1) == 1 ? ::pause() : 1);
+    }
+    ~Instance() {
+        ::kill(process, SIGKILL);
+        ::waitpid(process, nullptr, 0);
+        __real_close(answer[0]);
+        __real_close(answer[1]);
+    }
+    bool isRefused() const {
+        char refused = 2;
+        EXPECT_EQ(__real_read(answer[0], &refused, 1), 1);
+        return refused == 1;
+    }
+};
+
+TEST(Instances, AreOneForADirectoryAlsoWhereItCannotBeLockedAndLeaveNothingWhenKilled) {
+    for (const Names& refused : {Names{}, {"flock"}, {"open"}}) {
+        const tests::RealFiles here, there;
+        fault = {.refused = refused};
+        for (int run = 0; run < 2; ++run) {
+            EXPECT_FALSE(Instance(here).isRefused());
+            const Instance first(here);
+            EXPECT_FALSE(first.isRefused());
+            EXPECT_TRUE(Instance(here).isRefused());
+            EXPECT_FALSE(Instance(there).isRefused());
+        }
+        EXPECT_TRUE(std::filesystem::is_empty(here.directory));
+        fault = {};
+    }
 }
 
 } // namespace

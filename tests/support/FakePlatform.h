@@ -19,7 +19,8 @@ namespace tests {
 struct ProcessEnded {};
 
 struct FakeProcess : platform::Process {
-    bool prevInstance() const override { return false; }
+    bool prevInstance(const std::string& /*directory*/) override { return false; }
+    void whenAskedToEnd(std::function<void()> /*wanted*/) override {}
     [[noreturn]] void end() override { throw ProcessEnded{}; }
 };
 

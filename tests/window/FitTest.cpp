@@ -118,7 +118,9 @@ TEST(Fit, NoTextIsCutOffAndNothingIsMirrored) {
 } // namespace
 
 int main(int argc, char** argv) {
-    desktop_qt::QtDesktop desktop(argc, argv);
+    if (argc > 1)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    desktop_qt::QtDesktop desktop;
     toolkit::install(&desktop);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

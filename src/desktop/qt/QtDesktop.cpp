@@ -15,8 +15,6 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QSessionManager>
-#include <QSocketNotifier>
 #include <QTimer>
 #include <QWindow>
 
@@ -123,7 +121,7 @@ bool passesControl(const QKeyEvent& key) {
 
 } // namespace
 
-QtDesktop::QtDesktop(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+QtDesktop::QtDesktop() = default;
 
 QtDesktop::~QtDesktop() = default;
 
@@ -132,7 +130,9 @@ QApplication& QtDesktop::application() {
         return *application_;
     QApplication::setApplicationName(QStringLiteral("quorvanta"));
     QApplication::setDesktopFileName(QStringLiteral("example.zephyrwick.quorvanta"));
-    application_ = std::make_unique<QApplication>(argc_, argv_);
+    program_ = toolkit::App.Path + "/quorvanta";
+    argv_ = {program_.data(), nullptr};
+    application_ = std::make_unique<QApplication>(argc_, argv_.data());
     // The texts are English whatever the locale is, and a board reads 1, 2, 3 from the left.
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
@@ -145,27 +145,8 @@ QApplication& QtDesktop::application() {
             toolkit::Screen.focusMoved(*control);
         }
     });
-    connect(application_.get(), &QGuiApplication::commitDataRequest, this, [this] {
-        if (sessionEnds_)
-            sessionEnds_();
-    });
+    watchSession();
     return *application_;
-}
-
-int QtDesktop::run() {
-    if (toolkit::Forms.Count() == 0)
-        return 0;
-    return QApplication::exec();
-}
-
-void QtDesktop::whenReadable(int descriptor, std::function<void()> ready) {
-    application();
-    auto* const notifier = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
-    // Once is enough, also while what `ready` does runs an event loop of its own.
-    connect(notifier, &QSocketNotifier::activated, this, [notifier, ready = std::move(ready)] {
-        notifier->setEnabled(false);
-        ready();
-    });
 }
 
 FrameWindow* QtDesktop::frame() const {
@@ -285,14 +266,6 @@ bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned comma
 std::unique_ptr<toolkit::PrinterDevice> QtDesktop::newPrinterDevice() {
     application();
     return makePrinterDevice();
-}
-
-void QtDesktop::endLoop() {
-    // Queued, since the event that runs may show another form.
-    QTimer::singleShot(0, this, [] {
-        if (toolkit::Forms.Count() == 0)
-            QCoreApplication::quit();
-    });
 }
 
 // Every key goes through the window before the widget with the focus, once. Keys of a message box

@@ -2,13 +2,14 @@
 // does into the toolkit's events.
 #pragma once
 
-#include "platform/Help.h"
-#include "toolkit/Desktop.h"
+#include "desktop/SystemDesktop.h"
 
 #include <QObject>
 
+#include <array>
 #include <functional>
 #include <memory>
+#include <string>
 
 class QApplication;
 class QKeyEvent;
@@ -18,20 +19,12 @@ namespace desktop_qt {
 
 class FrameWindow;
 
-class QtDesktop : public QObject, public toolkit::Desktop, public platform::Help {
+class QtDesktop : public QObject, public desktop::SystemDesktop {
 public:
     // Nothing is opened until the first form or message box needs it, so a start that is refused
-    // costs little. `argc` must live as long as the desktop.
-    QtDesktop(int& argc, char** argv);
+    // costs little.
+    QtDesktop();
     ~QtDesktop() override;
-
-    // Runs the event loop until no form is left. Gives the exit code.
-    int run();
-
-    // Calls `wanted` from the event loop when the session ends.
-    void whenSessionEnds(std::function<void()> wanted) { sessionEnds_ = std::move(wanted); }
-    // Calls `ready` from the event loop when the descriptor has something to read.
-    void whenReadable(int descriptor, std::function<void()> ready);
 
     void open(toolkit::Form& form) override;
     void show(toolkit::Form& form, bool modal) override;
@@ -42,6 +35,8 @@ public:
     double screenWidth() override;
     double screenHeight() override;
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override;
+    int run() override;
+    std::function<void()> waker(std::function<void()> event) override;
     void endLoop() override;
 
     bool WinHelpA(std::uintptr_t window, const char* file, unsigned command,
@@ -52,17 +47,19 @@ protected:
 
 private:
     QApplication& application();
+    void watchSession();
     FrameWindow* frame() const;
     // The form that the keys of the window go to, or nullptr.
     static toolkit::Form* formWithKeys(const QObject* window);
     // Whether the key has been used up.
     static bool previewKey(const QKeyEvent& key, toolkit::Form& form);
 
-    int& argc_;
-    char** argv_;
+    // The command line is not read, by the library neither: all that it gets is the program's name.
+    std::string program_;
+    int argc_ = 1;
+    std::array<char*, 2> argv_{};
     std::unique_ptr<QApplication> application_;
     std::uintptr_t lastHandle_ = 0;
-    std::function<void()> sessionEnds_;
     bool focusMoves_ = false; // a control is just being told that the focus goes or comes
 };
 

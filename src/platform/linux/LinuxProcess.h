@@ -8,19 +8,13 @@ namespace platform {
 
 class LinuxProcess : public Process {
 public:
-    // Takes the lock of the user's one instance, which lies in the runtime directory. The kernel
-    // gives it up with the process, however that ends.
-    LinuxProcess();
+    // The lock is on the directory itself: that takes no file and no right to write, whatever the
+    // environment of a start is, and a newer version unpacked there changes nothing of it.
+    bool prevInstance(const std::string& directory) override;
 
-    bool prevInstance() const override { return another_; }
+    // SIGTERM, SIGINT and SIGHUP are such requests.
+    void whenAskedToEnd(std::function<void()> wanted) override;
     [[noreturn]] void end() override;
-
-    // A descriptor that becomes readable when the system asks the process to end: SIGTERM, SIGINT
-    // or SIGHUP. Calling it once takes these signals over. -1 if that can't be done.
-    static int endRequests();
-
-private:
-    bool another_ = false;
 };
 
 } // namespace platform

@@ -1,0 +1,33 @@
+#include "platform/Platform.h"
+#include "platform/linux/LinuxClock.h"
+#include "platform/linux/LinuxFiles.h"
+#include "platform/linux/LinuxLocale.h"
+#include "platform/linux/LinuxMachine.h"
+#include "platform/linux/LinuxProcess.h"
+#include "platform/linux/LinuxSettings.h"
+#include "platform/linux/LinuxShell.h"
+
+namespace platform {
+
+namespace {
+
+struct Linux {
+    LinuxProcess process;
+    LinuxClock clock;
+    LinuxRandom random;
+    LinuxSettings settings;
+    LinuxFiles files;
+    LinuxLocale locale;
+    LinuxMachine machine;
+    LinuxShell shell;
+};
+
+} // namespace
+
+Platform makePlatform(Help& help) {
+    static auto* const it = new Linux; // never given up: the process's last moments use it too
+    return {it->process, it->clock,   it->random, it->settings, it->files,
+            it->locale,  it->machine, it->shell,  help};
+}
+
+} // namespace platform
