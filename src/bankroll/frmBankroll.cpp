@@ -1,7 +1,8 @@
 #include "bankroll/frmBankroll.h"
 
-#include "common/Conversions.h"
+#include "common/DateText.h"
 #include "common/FormRoutines.h"
+#include "common/NumberText.h"
 #include "common/Trap.h"
 #include "common/modZWMsg.h"
 #include "frame/Shared.h"

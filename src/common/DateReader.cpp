@@ -1,9 +1,12 @@
-#include "common/Conversions.h"
+#include "common/DateText.h"
+#include "common/DateWords.h"
 #include "common/LocaleText.h"
+#include "platform/Picture.h"
 
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -13,329 +16,200 @@ namespace {
 
 using platform::DateTime;
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c & 0x80) != 0;
+// A number or a word of the text, and what stands between it and the one ahead of it.
+struct Token {
+    std::string marks; // without the blanks
+    bool blank = false;
+    bool behindWord = false; // or first in the text
+    const DateWord* word = nullptr;
+    std::size_t digits = 0; // of a number
+    int value = 0;
+};
+using Tokens = std::vector<Token>;
+
+// What may stand beside a word, and at both ends of the text.
+bool standsBesideWord(std::string_view marks) {
+    constexpr std::string_view kMarks[] = {"", ".", ",", ".,", "-", "/", "’", "'"};
+    return std::ranges::find(kMarks, marks) != std::end(kMarks);
 }
 
-// The small letter of a capital one, in the alphabets of two bytes that have both.
-unsigned smallLetter(unsigned c) {
-    const auto within = [c](unsigned first, unsigned last) { return c >= first && c <= last; };
-    if ((within(0xC0, 0xDE) && c != 0xD7) || within(0x391, 0x3A9) || within(0x410, 0x42F))
-        return c + 0x20;
-    if (within(0x400, 0x40F))
-        return c + 0x50;
-    if (within(0x100, 0x137) || within(0x14A, 0x177))
-        return c | 1U;
-    return within(0x139, 0x148) || within(0x179, 0x17E) ? c + c % 2 : c;
+bool isNumber(const Token& token) {
+    return token.digits > 0;
 }
 
-// The text with plain blanks and small letters.
-std::string folded(std::string_view text) {
-    std::string plain;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-        const std::string_view rest = text.substr(at);
-        if (rest.starts_with("\u00A0") || rest.starts_with("\u202F")) {
-            plain += ' ';
-            at += byte(at) == 0xC2 ? 1 : 2;
-        } else if ((byte(at) & 0xE0U) == 0xC0 && rest.size() > 1) {
-            const unsigned c = smallLetter((byte(at) & 0x1FU) << 6U | (byte(at + 1) & 0x3FU));
-            plain += static_cast<char>(0xC0 | c >> 6U);
-            plain += static_cast<char>(0x80 | (c & 0x3FU));
-            ++at;
+// Whether the text goes on with the letter of "2005-07-25t18:42".
+bool isIsoTime(const Tokens& before, std::string_view text) {
+    if (text.size() < 2 || text[0] != 't' || !isDigit(text[1]))
+        return false;
+    const auto first = std::ranges::find_if(before, isNumber);
+    return std::ranges::count_if(before, isNumber) == 3 && first->digits == 4;
+}
+
+// The tokens of a text, or none where it has something that no date has.
+Tokens tokensIn(std::string_view text, const DateWords& words) {
+    constexpr std::size_t kMostDigits = 4;
+    Tokens tokens;
+    Token next;
+    next.behindWord = true;
+    while (!text.empty()) {
+        std::size_t length = 1;
+        if (isDigit(text.front())) {
+            length = std::min(text.find_first_not_of("0123456789"), text.size());
+            if (length > kMostDigits)
+                return {};
+            std::from_chars(text.data(), text.data() + length, next.value);
+            next.digits = length;
+        } else if (isLetter(text.front()) && (next.word = words.frontOf(text))) {
+            length = next.word->text.size();
+        } else if (text.front() == ' ' || isIsoTime(tokens, text)) {
+            next.blank = true;
         } else {
-            plain +=
-                static_cast<char>(byte(at) >= 'A' && byte(at) <= 'Z' ? byte(at) + 32 : byte(at));
+            next.marks += text.front();
         }
+        if (next.word || isNumber(next)) {
+            tokens.push_back(std::exchange(next, {}));
+            next.behindWord = tokens.back().word != nullptr;
+        }
+        text.remove_prefix(length);
     }
-    return plain;
+    return standsBesideWord(next.marks) ? tokens : Tokens();
 }
 
-// A word that a date or time of the locale may have, and what it tells.
-struct Word {
-    std::string text;
-    int month = 0; // 1 to 12
-    int half = 0;  // of the day: 1 or 2
-    bool day = false;
-    bool filler = false; // stands in the pictures of the locale
+// What the words of a date say.
+struct Named {
+    int month = 0; // 1 to 12, 0 for none
+    int half = 0;  // of the day: 1 or 2, 0 for none
 };
 
-class Words {
-public:
-    Words() {
-        using namespace platform;
-        for (int i = 0; i < 12; ++i)
-            for (const int item : {LOCALE_SMONTHNAME1 + i, LOCALE_SABBREVMONTHNAME1 + i})
-                at(localeText(item)).month = i + 1;
-        for (int i = 0; i < 7; ++i)
-            for (const int item : {LOCALE_SDAYNAME1 + i, LOCALE_SABBREVDAYNAME1 + i})
-                at(localeText(item)).day = true;
-        at(localeText(LOCALE_S1159)).half = 1;
-        at(localeText(LOCALE_S2359)).half = 2;
-        for (const int item : {LOCALE_SSHORTDATE, LOCALE_SLONGDATE, LOCALE_STIMEFORMAT})
-            addQuoted(localeText(item));
-    }
-
-    // The longest word that the text begins with, or nullptr.
-    const Word* frontOf(std::string_view text) const {
-        const Word* longest = nullptr;
-        for (const Word& word : all_)
-            if (text.starts_with(word.text) && endsThere(word, text.substr(word.text.size())) &&
-                (!longest || word.text.size() > longest->text.size()))
-                longest = &word;
-        return longest;
-    }
-
-private:
-    Word& at(const std::string& name) {
-        std::string text = folded(name);
-        text.erase(text.find_last_not_of('.') + 1);
-        const auto known = std::find_if(all_.begin(), all_.end(),
-                                        [&](const Word& word) { return word.text == text; });
-        if (known != all_.end())
-            return *known;
-        return text.empty() ? nameless_ : all_.emplace_back(Word{text});
-    }
-
-    // The texts in quotes: "г." in "d MMMM yyyy 'г.'".
-    void addQuoted(const std::string& picture) {
-        for (std::size_t from = picture.find('\''); from != std::string::npos;) {
-            const std::size_t end = std::min(picture.find('\'', from + 1), picture.size());
-            at(picture.substr(from + 1, end - from - 1)).filler = true;
-            from = picture.find('\'', std::min(end + 1, picture.size()));
+// Nothing where a word is out of place.
+std::optional<Named> namedIn(const Tokens& tokens) {
+    Named named;
+    bool monthMayBeDay = false;
+    for (const Token& token : tokens) {
+        if (!token.word)
+            continue;
+        const DateWord& word = *token.word;
+        // "mar" is the name of a day and of a month in Spanish: the other month counts.
+        if (word.month != 0 && (named.month == 0 || monthMayBeDay)) {
+            named.month = word.month;
+            monthMayBeDay = word.day;
+        } else if (word.half != 0) {
+            named.half = word.half;
+        } else if (!word.day && !word.filler) {
+            return std::nullopt;
         }
+        if (!standsBesideWord(token.marks))
+            return std::nullopt;
     }
-
-    // A name ends where no letter of its alphabet follows. Chinese, Japanese and Korean are written
-    // without blanks, and so are some fillers.
-    static bool endsThere(const Word& word, std::string_view rest) {
-        const auto unspaced = [](char first) { return static_cast<unsigned char>(first) >= 0xE3; };
-        if (rest.empty() || word.filler || unspaced(word.text.front()) || unspaced(rest.front()))
-            return true;
-        return isDigit(word.text.back()) ? !isDigit(rest.front()) : !isLetter(rest.front());
-    }
-
-    std::vector<Word> all_;
-    Word nameless_; // a name that the locale doesn't have
-};
+    return named;
+}
 
 // The punctuation of a picture.
-std::string marksOf(const std::string& picture) {
+std::string marksOf(std::string_view picture) {
     std::string marks;
-    std::copy_if(picture.begin(), picture.end(), std::back_inserter(marks),
-                 [](char c) { return !isLetter(c) && c != '\'' && c != ' '; });
+    for (const platform::PictureToken& token : platform::tokensOf(picture))
+        for (const char c : token.text)
+            if (!isLetter(c) && c != '\'' && c != ' ')
+                marks += c;
     return marks;
 }
 
-// Reads a date from a text, in the terms of the locale.
-class DateReader {
-public:
-    std::optional<DateTime> read(const std::string& text) {
-        if (!cut(text))
+// Whether `mark` is one of those in `marks`.
+bool isOneOf(std::string_view mark, std::string_view marks) {
+    return mark.size() == 1 && marks.find(mark) != std::string_view::npos;
+}
+
+bool dateMarksFit(std::span<const Token> date, bool monthNamed) {
+    const bool whole = date.size() > 2;
+    const std::string marks =
+        marksOf(localeText(platform::LOCALE_SSHORTDATE)) + (whole ? "/-." : "/-");
+    return std::ranges::all_of(date, [&](const Token& it) {
+        if (monthNamed || it.behindWord)
+            return standsBesideWord(it.marks);
+        if (it.marks.empty())
+            return whole;
+        return isOneOf(it.marks, marks) && (it.marks == date[1].marks || date[1].behindWord);
+    });
+}
+
+bool timeMarksFit(std::span<const Token> time) {
+    const std::string marks = localeText(platform::LOCALE_STIME) + ":";
+    return std::ranges::all_of(time, [&](const Token& it) {
+        if (it.behindWord)
+            return standsBesideWord(it.marks);
+        if (&it == &time.front())
+            return it.blank && !isOneOf(it.marks, "-/") && standsBesideWord(it.marks);
+        return isOneOf(it.marks, marks);
+    });
+}
+
+// The fields of a picture of the locale in their order.
+std::string fieldsOf(int item) {
+    const std::string fields = platform::dateLetters(localeText(item));
+    return fields.size() == 3 ? fields : "Mdy";
+}
+
+// What a date's numbers are in their order. A year that can be seen by its digits goes before the
+// order of the locale.
+std::string orderOf(std::span<const Token> date, bool monthNamed) {
+    const bool whole = date.size() == (monthNamed ? 2 : 3);
+    std::string order = monthNamed ? "dy" : fieldsOf(platform::LOCALE_SSHORTDATE);
+    if (whole && date.front().digits > 2) {
+        order = monthNamed ? "yd" : "yMd";
+    } else if (whole && order.front() == 'y' && date.back().digits > 2) {
+        order = fieldsOf(platform::LOCALE_SLONGDATE);
+        std::erase(order, 'y');
+        order += 'y';
+    }
+    if (!whole)
+        std::erase(order, 'y');
+    return order;
+}
+
+// The day that the numbers and the named month, if there is one, make together.
+std::optional<DateTime> dayOf(std::span<const Token> date, int month) {
+    const std::string order = orderOf(date, month != 0);
+    DateTime day{.year = platform::current().clock.now().year, .month = month};
+    for (std::size_t i = 0; i < date.size(); ++i) {
+        const bool year = order[i] == 'y', shortYear = year && date[i].digits <= 2;
+        if (!year && date[i].digits > 2)
             return std::nullopt;
-        const std::size_t wanted = month_ != 0 ? 2 : 3; // numbers of a whole date
-        const std::size_t used = std::min(numbers_.size(), wanted);
-        if (used == 0 || !marksFit(used) || !readDate(used, wanted) || !readTime(used))
-            return std::nullopt;
-        return when_;
+        (year ? day.year : order[i] == 'M' ? day.month : day.day) = date[i].value;
+        if (shortYear)
+            day.year += date[i].value < 50 ? 2000 : 1900;
     }
+    const std::chrono::year_month_day known{std::chrono::year(day.year),
+                                            std::chrono::month(static_cast<unsigned>(day.month)),
+                                            std::chrono::day(static_cast<unsigned>(day.day))};
+    return day.year >= 100 && known.ok() ? std::optional(day) : std::nullopt;
+}
 
-private:
-    // A number, and what stands between it and the number or word ahead of it.
-    struct Number {
-        std::string marks;
-        bool behindWord, blank;
-        int value;
-        std::size_t digits;
-    };
+// Takes a date off the front of the numbers.
+std::optional<DateTime> takeDate(std::span<const Token>& numbers, int month) {
+    const std::size_t whole = month != 0 ? 2 : 3; // with a year
+    const std::span<const Token> date = numbers.first(std::min(numbers.size(), whole));
+    if (date.size() + 1 < whole || !dateMarksFit(date, month != 0))
+        return std::nullopt;
+    numbers = numbers.subspan(date.size());
+    return dayOf(date, month);
+}
 
-    // Cuts the text into numbers and words, with marks between.
-    bool cut(std::string_view text) {
-        std::string marks;
-        bool behindWord = true, blank = false;
-        while (!text.empty()) {
-            const char c = text.front();
-            std::size_t length = 1;
-            if (isDigit(c)) {
-                length = std::min(text.find_first_not_of("0123456789"), text.size());
-                if (!takeNumber(text.substr(0, length),
-                                {std::exchange(marks, {}), behindWord, blank, 0, length}))
-                    return false;
-                behindWord = blank = false;
-            } else if (const Word* const word = isLetter(c) ? words().frontOf(text) : nullptr) {
-                if (!nextToWord(std::exchange(marks, {})) || !takeWord(*word))
-                    return false;
-                length = word->text.size();
-                behindWord = true;
-                blank = false;
-            } else if (isIsoTime(text)) {
-                blank = true;
-            } else if (c == ' ') {
-                blank = true;
-            } else {
-                marks += c;
-            }
-            text.remove_prefix(length);
-        }
-        return nextToWord(marks);
-    }
-
-    // What may stand beside a word, and at both ends of the text.
-    static bool nextToWord(std::string_view marks) {
-        constexpr std::string_view kMarks[] = {"", ".", ",", ".,", "-", "/", "’", "'"};
-        return std::find(std::begin(kMarks), std::end(kMarks), marks) != std::end(kMarks);
-    }
-
-    // The letter in "2005-07-25T18:42".
-    bool isIsoTime(std::string_view text) const {
-        return text.front() == 't' && text.size() > 1 && isDigit(text[1]) && numbers_.size() == 3 &&
-               numbers_[0].digits == 4;
-    }
-
-    const Words& words() {
-        if (!words_)
-            words_.emplace();
-        return *words_;
-    }
-
-    bool takeNumber(std::string_view digits, Number number) {
-        constexpr std::size_t kMost = 6; // numbers: a date and a time
-        if (digits.size() > 4 || numbers_.size() == kMost)
+// Adds the time that the numbers make, if there are any, to the day.
+bool addTime(std::span<const Token> numbers, int half, DateTime& when) {
+    if (numbers.empty())
+        return half == 0;
+    if (numbers.size() > 3 || (numbers.size() == 1 && half == 0) || !timeMarksFit(numbers))
+        return false;
+    int* const fields[] = {&when.hour, &when.minute, &when.second};
+    for (std::size_t i = 0; i < numbers.size(); ++i)
+        *fields[i] = numbers[i].value;
+    if (half != 0) {
+        if (when.hour < 1 || when.hour > 12)
             return false;
-        std::from_chars(digits.data(), digits.data() + digits.size(), number.value);
-        numbers_.push_back(std::move(number));
-        return true;
+        when.hour = when.hour % 12 + (half == 2 ? 12 : 0);
     }
-
-    bool takeWord(const Word& word) {
-        // "mar" is the name of a day and of a month in Spanish: the other month counts.
-        if (word.month != 0 && (month_ == 0 || monthMayBeDay_)) {
-            month_ = word.month;
-            monthMayBeDay_ = word.day;
-            return true;
-        }
-        if (word.half != 0)
-            half_ = word.half;
-        return word.half != 0 || word.day || word.filler;
-    }
-
-    bool marksFit(std::size_t dateNumbers) const {
-        if (!numbers_[0].marks.empty() && !(words_ && nextToWord(numbers_[0].marks)))
-            return false;
-        for (std::size_t i = 1; i < numbers_.size(); ++i) {
-            const Number& number = numbers_[i];
-            const bool fits = number.behindWord ? nextToWord(number.marks)
-                              : i < dateNumbers ? dateMarkFits(i)
-                              : i == dateNumbers
-                                  ? number.blank && number.marks != "-" && number.marks != "/" &&
-                                        nextToWord(number.marks)
-                                  : timeMarks_.find(number.marks) != std::string::npos &&
-                                        number.marks.size() == 1;
-            if (!fits)
-                return false;
-        }
-        return true;
-    }
-
-    bool dateMarkFits(std::size_t i) const {
-        const std::string& mark = numbers_[i].marks;
-        if (month_ != 0)
-            return nextToWord(mark);
-        if (i > 1 && !mark.empty() && mark != numbers_[1].marks && !numbers_[1].behindWord)
-            return false;
-        const bool whole = numbers_.size() > 2;
-        return mark.empty() ? whole
-                            : mark.size() == 1 &&
-                                  (dateMarks_ + (whole ? "." : "")).find(mark) != std::string::npos;
-    }
-
-    // The order of a date's numbers: letters of its picture, without a month that is named.
-    std::string orderOf(std::size_t used, std::size_t wanted) const {
-        std::string order = lettersOf(shortDate_);
-        if (month_ != 0)
-            order = "dMy";
-        if (used == wanted && numbers_[0].digits > 2) {
-            order = "yMd";
-        } else if (order[0] == 'y' && used == wanted && numbers_[used - 1].digits > 2) {
-            order = lettersOf(localeText(platform::LOCALE_SLONGDATE));
-            std::erase(order, 'y');
-            order += 'y';
-        }
-        if (month_ != 0)
-            std::erase(order, 'M');
-        if (used < wanted)
-            std::erase(order, 'y');
-        return order;
-    }
-
-    bool readDate(std::size_t used, std::size_t wanted) {
-        if (used + 1 < wanted || (used < wanted && numbers_.size() > used))
-            return false;
-        const std::string order = orderOf(used, wanted);
-        when_.year = platform::current().clock.now().year;
-        when_.month = month_;
-        for (std::size_t i = 0; i < used; ++i) {
-            const Number& number = numbers_[i];
-            if (order[i] != 'y' && number.digits > 2)
-                return false;
-            (order[i] == 'y'   ? when_.year
-             : order[i] == 'M' ? when_.month
-                               : when_.day) = number.value;
-            if (order[i] == 'y' && number.digits <= 2)
-                when_.year += number.value < 50 ? 2000 : 1900;
-        }
-        const std::chrono::year_month_day date{
-            std::chrono::year(when_.year), std::chrono::month(static_cast<unsigned>(when_.month)),
-            std::chrono::day(static_cast<unsigned>(when_.day))};
-        return when_.year >= 100 && date.ok();
-    }
-
-    bool readTime(std::size_t from) {
-        const std::size_t count = numbers_.size() - from;
-        if (count == 0)
-            return half_ == 0;
-        if (count > 3 || (count == 1 && half_ == 0))
-            return false;
-        int* const fields[] = {&when_.hour, &when_.minute, &when_.second};
-        for (std::size_t i = 0; i < count; ++i)
-            *fields[i] = numbers_[from + i].value;
-        if (half_ != 0) {
-            if (when_.hour < 1 || when_.hour > 12)
-                return false;
-            when_.hour = when_.hour % 12 + (half_ == 2 ? 12 : 0);
-        }
-        return when_.hour < 24 && when_.minute < 60 && when_.second < 60;
-    }
-
-    // The fields of a picture in their order. The name of the day is none.
-    static std::string lettersOf(std::string picture) {
-        if (const std::size_t at = picture.find("ddd"); at != std::string::npos)
-            picture.erase(at, picture.find_first_not_of('d', at) - at);
-        std::string order;
-        bool quoted = false;
-        for (const char c : picture) {
-            quoted ^= c == '\'';
-            if (!quoted && std::string_view("dMy").find(c) != std::string_view::npos &&
-                order.find(c) == std::string::npos)
-                order += c;
-        }
-        return order.size() == 3 ? order : "Mdy";
-    }
-
-    const std::string shortDate_ = localeText(platform::LOCALE_SSHORTDATE);
-    const std::string dateMarks_ = marksOf(shortDate_) + "/-";
-    const std::string timeMarks_ = localeText(platform::LOCALE_STIME) + ":";
-    std::optional<Words> words_; // made where the text has any
-
-    std::vector<Number> numbers_;
-    int month_ = 0; // of a named month
-    bool monthMayBeDay_ = false;
-    int half_ = 0; // of the day, where it is told: 1 or 2
-    DateTime when_;
-};
+    return when.hour < 24 && when.minute < 60 && when.second < 60;
+}
 
 } // namespace
 
@@ -343,7 +217,19 @@ std::optional<DateTime> ReadDate(std::string_view text) {
     constexpr std::size_t kLongest = 200; // bytes: more than any locale's long date and time take
     if (text.size() > kLongest)
         return std::nullopt;
-    return DateReader().read(folded(text));
+    const std::string plain = folded(text);
+    const bool worded = std::ranges::any_of(plain, isLetter);
+    const DateWords words(worded);
+    Tokens tokens = tokensIn(plain, words);
+    const std::optional<Named> named = namedIn(tokens);
+    std::erase_if(tokens, [](const Token& it) { return it.word != nullptr; });
+    if (!named || tokens.empty() || (!worded && !tokens.front().marks.empty()))
+        return std::nullopt;
+    std::span<const Token> numbers = tokens;
+    std::optional<DateTime> when = takeDate(numbers, named->month);
+    if (when && !addTime(numbers, named->half, *when))
+        return std::nullopt;
+    return when;
 }
 
 } // namespace quorvanta

@@ -1,6 +1,6 @@
 #include "common/cLocalSettings.h"
 
-#include "common/Conversions.h"
+#include "common/NumberText.h"
 #include "common/SystemBuffer.h"
 #include "common/Trap.h"
 #include "platform/Platform.h"

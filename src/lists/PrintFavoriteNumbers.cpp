@@ -1,4 +1,4 @@
-#include "common/Conversions.h"
+#include "common/DateText.h"
 #include "common/Trap.h"
 #include "lists/frmFavorites.h"
 #include "platform/Platform.h"

@@ -1,6 +1,6 @@
 #include "numbers/cLotto.h"
 
-#include "common/Conversions.h"
+#include "common/NumberText.h"
 #include "common/Trap.h"
 #include "platform/Platform.h"
 #include "toolkit/Desktop.h"

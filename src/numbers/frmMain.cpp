@@ -1,7 +1,7 @@
 #include "numbers/frmMain.h"
 
-#include "common/Conversions.h"
 #include "common/FormRoutines.h"
+#include "common/NumberText.h"
 #include "common/Trap.h"
 #include "common/UserSetting.h"
 #include "frame/Shared.h"

@@ -1,6 +1,7 @@
 #include "storage/cQuorvantaLite.h"
 
-#include "common/Conversions.h"
+#include "common/DateText.h"
+#include "common/NumberText.h"
 #include "common/Trap.h"
 #include "frame/Shared.h"
 #include "platform/Platform.h"

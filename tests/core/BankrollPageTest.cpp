@@ -1,5 +1,5 @@
 #include "bankroll/frmBankroll.h"
-#include "common/Conversions.h"
+#include "common/NumberText.h"
 #include "frame/MDIForm1.h"
 #include "frame/MainCode_ZW.h"
 #include "numbers/frmMain.h"

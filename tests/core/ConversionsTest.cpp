@@ -1,4 +1,5 @@
-#include "common/Conversions.h"
+#include "common/DateText.h"
+#include "common/NumberText.h"
 #include "tests/support/FakePlatform.h"
 
 #include <gtest/gtest.h>

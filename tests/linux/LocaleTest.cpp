@@ -1,4 +1,5 @@
-#include "common/Conversions.h"
+#include "common/DateText.h"
+#include "common/NumberText.h"
 #include "platform/LocaleItems.h"
 #include "platform/linux/LinuxLocale.h"
 #include "platform/linux/LinuxMachine.h"

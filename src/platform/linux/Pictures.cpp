@@ -1,5 +1,7 @@
 #include "platform/linux/Pictures.h"
 
+#include "platform/Picture.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -94,26 +96,24 @@ std::string pictureOf(std::string_view pattern) {
         appendText(picture, text);
         text.clear();
     };
-    bool quoted = false;
-    for (std::size_t at = 0; at < pattern.size();) {
-        const char c = pattern[at];
-        std::size_t length = 1;
-        if (pattern.substr(at).starts_with("''")) {
+    for (const PictureToken& token : tokensOf(pattern)) {
+        if (token.letter != '\0') {
+            endText();
+            picture += fieldOf(token.letter, token.count);
+        } else if (token.text == "'") {
             text += "''"; // one quote, in a picture too
-            length = 2;
-        } else if (c == '\'') {
-            quoted = !quoted;
-        } else if (isLetter(c) && !quoted) {
-            endText();
-            length = std::min(pattern.find_first_not_of(c, at), pattern.size()) - at;
-            picture += fieldOf(c, length);
-        } else if ((c == ' ' || c == ',') && !quoted) {
-            endText();
-            picture += c;
+        } else if (token.quoted) {
+            text += token.text;
         } else {
-            text += c;
+            for (const char c : token.text) {
+                if (c != ' ' && c != ',') {
+                    text += c;
+                    continue;
+                }
+                endText();
+                picture += c;
+            }
         }
-        at += length;
     }
     endText();
     return trimmed(picture);
@@ -135,12 +135,10 @@ std::string separatorOf(std::string_view picture) {
 }
 
 int dateOrder(std::string_view picture) {
-    // The name of the day isn't the day.
-    const std::string plain = withoutDayName(picture);
-    const std::size_t year = plain.find('y'), month = plain.find('M'), day = plain.find('d');
-    if (year < month && year < day)
+    const std::string letters = dateLetters(picture);
+    if (letters.starts_with('y'))
         return 2;
-    return month < day ? 0 : 1;
+    return letters.find('M') < letters.find('d') ? 0 : 1;
 }
 
 int positiveCurrencyMode(std::string_view pattern) {

@@ -1,5 +1,7 @@
-#include "common/Conversions.h"
+#include "common/DateText.h"
+
 #include "common/LocaleText.h"
+#include "platform/Picture.h"
 
 #include <algorithm>
 #include <chrono>
@@ -10,9 +12,6 @@ namespace {
 
 using platform::DateTime;
 
-bool isAsciiLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 std::string padded(int number, std::size_t width) {
     const std::string digits = std::to_string(number);
     return std::string(width > digits.size() ? width - digits.size() : 0, '0') + digits;
@@ -69,24 +68,8 @@ std::string field(const DateTime& when, char letter, std::size_t count) {
 
 std::string FormatDate(const DateTime& when, std::string_view picture) {
     std::string text;
-    bool quoted = false;
-    for (std::size_t at = 0; at < picture.size();) {
-        const char c = picture[at];
-        if (c == '\'') {
-            // Two quotes in a row are one in the text.
-            const bool two = picture.substr(at + 1).starts_with('\'');
-            text += two ? "'" : "";
-            quoted ^= !two;
-            at += two ? 2 : 1;
-        } else if (isAsciiLetter(c) && !quoted) {
-            const std::size_t end = std::min(picture.find_first_not_of(c, at), picture.size());
-            text += field(when, c, end - at);
-            at = end;
-        } else {
-            text += c;
-            ++at;
-        }
-    }
+    for (const platform::PictureToken& token : platform::tokensOf(picture))
+        text += token.letter == '\0' ? token.text : field(when, token.letter, token.count);
     return text;
 }
 
