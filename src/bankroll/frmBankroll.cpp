@@ -1,11 +1,11 @@
 #include "bankroll/frmBankroll.h"
 
 #include "common/DateText.h"
-#include "common/FormRoutines.h"
 #include "common/NumberText.h"
 #include "common/Trap.h"
 #include "common/modZWMsg.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modQuorvantaLite.h"
 #include "platform/Platform.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #include "common/ErrorReport.h"
 
 #include "common/Trap.h"
-#include "frame/Shared.h"
+#include "frame/modConstants.h"
 #include "platform/Platform.h"
 #include "toolkit/Form.h"
 
@@ -10,8 +10,6 @@
 namespace quorvanta {
 
 namespace {
-
-bool mblnLogStarted = false;
 
 std::string quoted(const std::string& line) {
     return '"' + line + '"';
@@ -26,10 +24,6 @@ std::string universal(const platform::DateTime& when) {
 }
 
 } // namespace
-
-void StartNewDebugLog() {
-    mblnLogStarted = false;
-}
 
 void WriteDebugLog(int number, const std::string& text, const std::string& description,
                    const platform::DateTime& when) {

@@ -21,8 +21,8 @@ Answer ShowErrorBox(int number, const std::string& description, const std::strin
 void WriteDebugLog(int number, const std::string& text, const std::string& description,
                    const platform::DateTime& when);
 
-// The next record is the first of a run again.
-void StartNewDebugLog();
+// The run has a record.
+inline bool mblnLogStarted = false;
 
 // A failure that no routine has trapped: it is logged, and the user is told. Nothing can be
 // repeated or passed over any more, so the box has one button.

@@ -1,7 +1,7 @@
-#include "common/FormRoutines.h"
-
+// The routines of MainCode_ZW that forms call on themselves.
 #include "common/Trap.h"
 #include "frame/MDIForm1.h"
+#include "frame/MainCode_ZW.h"
 
 namespace quorvanta {
 

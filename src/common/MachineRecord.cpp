@@ -1,9 +1,8 @@
-#include "common/MachineRecord.h"
-
+// The record of the machine in the debug log, of MainCode_ZW.
 #include "common/ErrorReport.h"
 #include "common/Trap.h"
 #include "common/cLocalSettings.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
 
 namespace quorvanta {
 

@@ -1,6 +1,6 @@
 #include "common/UserSetting.h"
 
-#include "frame/Shared.h"
+#include "frame/modConstants.h"
 #include "platform/Platform.h"
 
 namespace quorvanta {

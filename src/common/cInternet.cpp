@@ -1,8 +1,8 @@
 #include "common/cInternet.h"
 
-#include "common/MakerSite.h"
 #include "common/Trap.h"
 #include "common/frmURL.h"
+#include "frame/modConstants.h"
 #include "platform/Platform.h"
 
 namespace quorvanta {

@@ -1,9 +1,8 @@
 #include "common/frmURL.h"
 
-#include "common/FormRoutines.h"
-#include "common/MakerSite.h"
 #include "common/Trap.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modConstants.h"
 
 namespace quorvanta {
 

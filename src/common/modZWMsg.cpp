@@ -1,7 +1,8 @@
 #include "common/modZWMsg.h"
 
 #include "common/Trap.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modConstants.h"
 #include "toolkit/Desktop.h"
 
 #include <string>

@@ -1,9 +1,8 @@
 #include "frame/MDIForm1.h"
 
-#include "common/FormRoutines.h"
 #include "common/modZWMsg.h"
 #include "frame/MainCode_ZW.h"
-#include "frame/Shared.h"
+#include "frame/modConstants.h"
 
 namespace quorvanta {
 

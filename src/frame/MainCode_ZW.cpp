@@ -1,11 +1,9 @@
 #include "frame/MainCode_ZW.h"
 
 #include "common/ErrorReport.h"
-#include "common/MachineRecord.h"
 #include "common/Trap.h"
 #include "common/cLocalSettings.h"
 #include "frame/MDIForm1.h"
-#include "frame/Shared.h"
 #include "frame/frmSplash.h"
 #include "platform/Platform.h"
 #include "storage/cQuorvantaLite.h"

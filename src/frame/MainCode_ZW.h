@@ -1,12 +1,27 @@
-// The beginning and the orderly end of a run.
+// The beginning and the orderly end of a run, what is looked up once for the whole of it, and the
+// small routines that forms call on themselves.
 #pragma once
 
 #include "toolkit/Form.h"
 
+#include <string>
+
 namespace quorvanta {
+
+// Copies of values of cLocalSettings, filled once at start-up.
+inline std::string gstrWinDirectory;
+inline std::string gstrWinSysDirectory;
+inline std::string gstrShortDateFormat;
+
+// The language of those messages that exist in two: 1 English, 2 German.
+inline int gintLanguage = 0;
 
 // The program's entry. Returns as soon as the data file is read; the run goes on in the event loop.
 void Main();
+
+// Writes the record of the machine and its locale into the debug log, where it is the first thing
+// of a run, and fills gstrShortDateFormat. Failures are reported; after Abort the rest is left out.
+void WriteSystemData();
 
 // Writes the data file, unloads every form and ends the process, whatever fails on the way. There
 // is no question here: asking is the caller's. Does not return, but for a call from within itself.
@@ -16,5 +31,19 @@ void EndApp(toolkit::Form& frm);
 // while one is open. Without a frame there is nothing to save yet, and the process just ends. Does
 // nothing while EndApp runs.
 void EndRunForSystem();
+
+// Places a top-level form in the middle of the screen. A form wider than the screen gets a negative
+// Left.
+void CenterForm(toolkit::Form& frm);
+
+// Places a page across the middle of the frame, outer width against outer width, and at the top of
+// the frame's client area. Failures are the caller's.
+void CenterChild(toolkit::Form& frm);
+
+// Selects the whole text of the active control of the active form, if it has a text.
+void SelectAllText();
+
+// Writes a panel of a status bar. Panels count from 1.
+void SetStatBarText(toolkit::StatusBar& statusBar, int panel, const std::string& text);
 
 } // namespace quorvanta

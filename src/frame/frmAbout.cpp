@@ -1,13 +1,12 @@
 #include "frame/frmAbout.h"
 
-#include "common/FormRoutines.h"
-#include "common/MakerSite.h"
 #include "common/SystemBuffer.h"
 #include "common/Trap.h"
 #include "common/cInternet.h"
 #include "common/cLocalSettings.h"
 #include "frame/Emblem.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modConstants.h"
 #include "platform/Platform.h"
 
 namespace quorvanta {

@@ -1,9 +1,8 @@
 #include "frame/frmSplash.h"
 
-#include "common/FormRoutines.h"
-#include "common/MakerSite.h"
 #include "frame/MDIForm1.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modConstants.h"
 
 namespace quorvanta {
 

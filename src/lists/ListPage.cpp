@@ -1,7 +1,8 @@
 #include "lists/ListPage.h"
 
-#include "common/FormRoutines.h"
 #include "common/Trap.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modConstants.h"
 #include "lists/Keypad.h"
 #include "lists/cFlexGrid.h"
 #include "numbers/cLotto.h"

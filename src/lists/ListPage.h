@@ -8,7 +8,7 @@
 
 #include "common/modZWMsg.h"
 #include "frame/Navigation.h"
-#include "frame/Shared.h"
+#include "frame/modQuorvantaLite.h"
 #include "toolkit/Form.h"
 
 #include <functional>

@@ -1,10 +1,10 @@
 #include "numbers/frmMain.h"
 
-#include "common/FormRoutines.h"
 #include "common/NumberText.h"
 #include "common/Trap.h"
 #include "common/UserSetting.h"
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "frame/modConstants.h"
 #include "numbers/Board.h"
 #include "numbers/cLotto.h"
 

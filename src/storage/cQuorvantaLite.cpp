@@ -3,7 +3,7 @@
 #include "common/DateText.h"
 #include "common/NumberText.h"
 #include "common/Trap.h"
-#include "frame/Shared.h"
+#include "frame/modQuorvantaLite.h"
 #include "platform/Platform.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "common/ErrorReport.h"
-#include "common/MachineRecord.h"
 #include "common/cLocalSettings.h"
+#include "frame/MainCode_ZW.h"
 #include "tests/support/ProgramTest.h"
 
 #include <regex>

@@ -67,7 +67,7 @@ TEST_F(MessagesTest, ExitAsksYesOrNoAndPassesAFailureOver) {
 }
 
 TEST_F(MessagesTest, TheFirstRecordOfARunBeginsANewLogAndCarriesTheVersion) {
-    StartNewDebugLog();
+    mblnLogStarted = false;
     os.files.content[kLog] = "of the run before\r\n";
     WriteDebugLog(-1, "Computer Name: ", "OFFICE1", {});
     WriteDebugLog(-1, "", "", {});
@@ -82,7 +82,7 @@ TEST_F(MessagesTest, TheFirstRecordOfARunBeginsANewLogAndCarriesTheVersion) {
 
 TEST_F(MessagesTest, TheErrorBoxComesAlsoWhenTheLogIsLost) {
     for (const char* failing : {"remove", "openForAppend", "writeLine", "close"}) {
-        StartNewDebugLog();
+        mblnLogStarted = false;
         os.files.fault = [&](const std::string& operation, const std::string&) {
             if (operation == failing)
                 throw platform::RuntimeError(platform::PermissionDenied);

@@ -15,7 +15,7 @@ TEST(DataFileFuzz, WhatWasReadComesBackAsItWasWrittenWhateverTheFileHeld) {
         tests::ErrorBoxes boxes;
         boxes.last = toolkit::Ignore;
         const auto readAndSave = [&] {
-            quorvanta::ResetSharedState();
+            tests::forgetStored();
             quorvanta::cQuorvantaLite().ReadLottoFile();
             quorvanta::cQuorvantaLite().WriteLottoFile();
             return system.files.content("Quorvanta.txt");

@@ -135,7 +135,7 @@ struct Trial {
         return underFault([] { cQuorvantaLite().WriteLottoFile(); }, position, error);
     }
     static tests::StoredValues read() {
-        ResetSharedState();
+        tests::forgetStored();
         cQuorvantaLite().ReadLottoFile();
         return tests::stored();
     }
@@ -220,8 +220,8 @@ TEST(StartFaults, NeverHarmTheFileAndOnlyWhatWasToldIsMissingFromTheRun) {
                 Trial run({"later run", {kFile, kBackup}}, text);
                 run.boxes.last = answer;
                 toolkit::Form::dropAll();
-                ResetSharedState();
-                StartNewDebugLog();
+                tests::forgetStored();
+                mblnLogStarted = false;
                 reached = run.underFault(Main, position, error);
                 const auto told = run.boxes.takeReports();
                 EXPECT_EQ(run.system.files.content(kFile), text);

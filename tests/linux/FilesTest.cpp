@@ -19,7 +19,7 @@ struct Files : testing::Test {
     tests::RealFiles& files = system.files;
     tests::ErrorBoxes boxes;
 
-    Files() { quorvanta::ResetSharedState(); }
+    Files() { tests::forgetStored(); }
 
     void saveRow(const std::string& row) {
         quorvanta::gstrFavorites[1] = row;

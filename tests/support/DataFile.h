@@ -1,7 +1,7 @@
 // What the tests of the data file share: a whole file, the values it holds, and its error boxes.
 #pragma once
 
-#include "frame/Shared.h"
+#include "frame/modQuorvantaLite.h"
 #include "tests/support/FakeDesktop.h"
 
 #include <string>
@@ -34,6 +34,10 @@ inline auto stored() {
 }
 using StoredValues = std::tuple<quorvanta::RowTexts, quorvanta::RowTexts, double, double, double,
                                 double, std::string>;
+
+inline void forgetStored() {
+    stored() = StoredValues{};
+}
 
 // A desktop whose boxes are error boxes.
 struct ErrorBoxes : FakeDesktop {

@@ -1,7 +1,8 @@
 // A run of the program without a platform and without windows: each test begins one and ends it.
 #pragma once
 
-#include "frame/Shared.h"
+#include "frame/MainCode_ZW.h"
+#include "tests/support/DataFile.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
 
@@ -17,7 +18,9 @@ protected:
     std::vector<int> untrapped;
 
     ProgramTest() {
-        quorvanta::ResetSharedState();
+        forgetStored();
+        quorvanta::gstrWinDirectory = quorvanta::gstrWinSysDirectory = "";
+        quorvanta::gstrShortDateFormat = "";
         quorvanta::gintLanguage = 1;
         toolkit::App = {};
         toolkit::App.Path = "/app";

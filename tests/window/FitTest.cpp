@@ -10,6 +10,7 @@
 #include "lists/frmCustomize6.h"
 #include "lists/frmFavorites.h"
 #include "numbers/frmMain.h"
+#include "tests/support/DataFile.h"
 #include "tests/support/FakePlatform.h"
 
 #include <gtest/gtest.h>
@@ -90,7 +91,7 @@ void checkWindow(toolkit::Form& form) {
 
 TEST(Fit, NoTextIsCutOffAndNothingIsMirrored) {
     const tests::FakePlatform os;
-    ResetSharedState();
+    tests::forgetStored();
     for (int n = 1; n <= 49; ++n)
         gstrStammNumbers[1] += std::to_string(n) + ";";
     gstrFavorites[1] = "44;45;46;47;48;49;";
