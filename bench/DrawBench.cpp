@@ -2,7 +2,7 @@
 // the system's random generator. Fails below the promised million.
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
-#include "platform/linux/LinuxClock.h"
+#include "platform/StandardRandom.h"
 #include "tests/support/FakePlatform.h"
 
 #include <benchmark/benchmark.h>
@@ -66,7 +66,7 @@ public:
 
 int main(int count, char** arguments) {
     tests::FakePlatform system;
-    platform::LinuxRandom random;
+    platform::StandardRandom random;
     random.seed();
     const platform::Platform all{system.process,  system.clock, random,
                                  system.settings, system.files, system.locale,

@@ -4,7 +4,7 @@
 #include "bench/Fairness.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
-#include "platform/linux/LinuxClock.h"
+#include "platform/StandardRandom.h"
 #include "tests/support/FakePlatform.h"
 
 #include <cstdlib>
@@ -14,7 +14,7 @@ int main(int count, char** arguments) {
     constexpr double kBound = 5; // standard deviations
     const long plays = count > 1 ? std::atol(arguments[1]) : 10'000'000;
     tests::FakePlatform system;
-    platform::LinuxRandom random;
+    platform::StandardRandom random;
     random.seed();
     const platform::Platform all{system.process,  system.clock, random,
                                  system.settings, system.files, system.locale,

@@ -14,11 +14,11 @@ class Shell {
 public:
     virtual ~Shell() = default;
 
-    // Hands `file`, a web or mail address as UTF-8, to the program that the system has for it.
-    // `window` is the owner's handle; `operation` is "open"; `parameters` and `directory` may be
-    // null; `show` is 1 for a normal window. Gives a number above 32, or the failure: 2 nothing to
-    // open or a program that can't be run, 3 no such directory, 5 access denied, 31 no program for
-    // such an address.
+    // Hands `file`, a web or mail address as UTF-8 that addressToOpen() lets pass, to the program
+    // that the system has for it. `window` is the owner's handle; `operation` is "open";
+    // `parameters` and `directory` may be null; `show` is 1 for a normal window. Gives a number
+    // above 32, or the failure: 2 nothing to open or a program that can't be run, 3 no such
+    // directory, 5 access denied, 31 no program for such an address.
     virtual int ShellExecuteA(std::uintptr_t window, const char* operation, const char* file,
                               const char* parameters, const char* directory, int show) = 0;
 

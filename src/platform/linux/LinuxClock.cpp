@@ -1,9 +1,6 @@
 #include "platform/linux/LinuxClock.h"
 
-#include <chrono>
 #include <ctime>
-#include <exception>
-#include <vector>
 
 namespace platform {
 
@@ -13,22 +10,6 @@ DateTime LinuxClock::now() const {
     localtime_r(&seconds, &local);
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
             local.tm_hour,        local.tm_min,     local.tm_sec};
-}
-
-void LinuxRandom::seed() {
-    const auto ticks = static_cast<unsigned long long>(
-        std::chrono::system_clock::now().time_since_epoch().count());
-    std::vector<unsigned> sources{static_cast<unsigned>(ticks),
-                                  static_cast<unsigned>(ticks >> 32U)};
-    try {
-        std::random_device entropy;
-        for (int i = 0; i < 4; ++i)
-            sources.push_back(entropy());
-    } catch (const std::exception&) {
-        // A system without entropy at hand leaves the clock.
-    }
-    std::seed_seq mixed(sources.begin(), sources.end());
-    engine_.seed(mixed);
 }
 
 } // namespace platform

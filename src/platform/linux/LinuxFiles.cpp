@@ -1,109 +1,43 @@
 #include "platform/linux/LinuxFiles.h"
 
+#include "platform/Lines.h"
 #include "platform/RuntimeError.h"
 #include "platform/linux/Descriptor.h"
 #include "platform/linux/LinuxReplacement.h"
 
 #include <cerrno>
 #include <climits>
-#include <cstring>
 #include <fcntl.h>
 #include <unistd.h>
-#include <vector>
 
 namespace platform {
 
 namespace {
 
-constexpr std::size_t kBufferSize = 1 << 16;
-
-// A broken file must not eat the machine's memory.
-constexpr std::size_t kLongestLine = std::size_t{256} << 20;
-
-class LinuxInputFile : public InputFile {
+class LinuxBytes : public Bytes {
 public:
-    explicit LinuxInputFile(const std::string& path)
-        : path_(path), file_(Descriptor::openRegular(path, O_RDONLY)), buffer_(kBufferSize) {}
+    LinuxBytes(const std::string& path, int flags)
+        : path_(path), file_(Descriptor::openRegular(path, flags)) {}
 
-    bool readLine(std::string& line) override {
-        line.clear();
-        if (!begun_.empty())
-            std::swap(line, begun_);
-        try {
-            return readOn(line);
-        } catch (...) {
-            // A repeated call goes on where this one stopped.
-            std::swap(line, begun_);
-            throw;
-        }
-    }
-
-private:
-    bool readOn(std::string& line) {
-        bool any = !line.empty(), tooLong = false;
-        while (fill()) {
-            if (std::exchange(skipLineFeed_, false) && buffer_[at_] == '\n') {
-                ++at_;
-                continue;
-            }
-            any = true;
-            const char* start = buffer_.data() + at_;
-            const void* end = std::memchr(start, '\r', size_ - at_);
-            const std::size_t count =
-                end ? static_cast<std::size_t>(static_cast<const char*>(end) - start) : size_ - at_;
-            tooLong = tooLong || line.size() + count > kLongestLine;
-            if (!tooLong)
-                line.append(start, count);
-            at_ += count;
-            if (end) {
-                ++at_;
-                skipLineFeed_ = true;
-                break;
-            }
-        }
-        if (tooLong) {
-            line = {};
-            throw RuntimeError(OutOfMemory);
-        }
-        return any;
-    }
-
-    // False at the end of the file.
-    bool fill() {
-        if (at_ < size_)
-            return true;
+    std::size_t read(char* to, std::size_t size) override {
         ssize_t count;
         do
-            count = ::read(file_.get(), buffer_.data(), buffer_.size());
+            count = ::read(file_.get(), to, size);
         while (count < 0 && errno == EINTR);
         if (count < 0)
             raiseErrno(errno, path_);
-        at_ = 0;
-        size_ = static_cast<std::size_t>(count);
-        return size_ > 0;
+        return static_cast<std::size_t>(count);
     }
 
-    std::string path_;
-    Descriptor file_;
-    std::vector<char> buffer_;
-    std::size_t at_ = 0, size_ = 0;
-    bool skipLineFeed_ = false; // the character before was a CR that ended a line
-    std::string begun_;         // of a line whose rest could not be read
-};
-
-class LinuxOutputFile : public OutputFile {
-public:
-    explicit LinuxOutputFile(const std::string& path)
-        : path_(path), file_(Descriptor::openRegular(path, O_WRONLY | O_CREAT | O_APPEND)) {}
-
-    void writeLine(std::string_view line) override { text_.append(line).append("\r\n"); }
+    void write(std::string& text) override {
+        const std::size_t done = file_.write(text);
+        const int error = errno;
+        text.erase(0, done);
+        if (!text.empty())
+            raiseErrno(error, path_);
+    }
 
     void close() override {
-        const std::size_t done = file_.write(text_);
-        const int error = errno;
-        text_.erase(0, done);
-        if (!text_.empty())
-            raiseErrno(error, path_);
         if (!file_.close())
             raiseErrno(errno, path_);
     }
@@ -111,7 +45,6 @@ public:
 private:
     std::string path_;
     Descriptor file_;
-    std::string text_;
 };
 
 } // namespace
@@ -144,11 +77,11 @@ void LinuxFiles::remove(const std::string& path) {
 }
 
 std::unique_ptr<InputFile> LinuxFiles::openForInput(const std::string& path) {
-    return std::make_unique<LinuxInputFile>(path);
+    return readLines(std::make_unique<LinuxBytes>(path, O_RDONLY));
 }
 
 std::unique_ptr<OutputFile> LinuxFiles::openForAppend(const std::string& path) {
-    return std::make_unique<LinuxOutputFile>(path);
+    return writeLines(std::make_unique<LinuxBytes>(path, O_WRONLY | O_CREAT | O_APPEND));
 }
 
 std::unique_ptr<Replacement> LinuxFiles::replace(const std::string& path,

@@ -13,8 +13,7 @@ public:
     bool exists(const std::string& path) const override;
     void remove(const std::string& path) override;
 
-    // Only a regular file is opened. A line of more than 256 MiB is passed over and reported as
-    // OutOfMemory.
+    // Only a regular file is opened.
     std::unique_ptr<InputFile> openForInput(const std::string& path) override;
 
     // What is written reaches the file at close(), and is left to the system to force to the disk.

@@ -1,7 +1,7 @@
 #include "platform/linux/LinuxLocale.h"
 
 #include "platform/LocaleItems.h"
-#include "platform/linux/CodePage.h"
+#include "platform/linux/IcuCodePage.h"
 #include "platform/linux/LocaleTables.h"
 #include "platform/linux/Pictures.h"
 
@@ -196,7 +196,7 @@ std::string LinuxLocale::toBytes(std::string_view text) const {
 const CodePage& LinuxLocale::codePage() const {
     if (!codePage_) {
         codePageNumber_ = ansiCodePage(categories_.characters);
-        codePage_ = std::make_unique<CodePage>(codePageNumber_);
+        codePage_ = std::make_unique<CodePage>(icuCodePage(codePageNumber_));
     }
     return *codePage_;
 }

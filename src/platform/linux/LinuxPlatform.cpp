@@ -1,4 +1,5 @@
 #include "platform/Platform.h"
+#include "platform/StandardRandom.h"
 #include "platform/linux/LinuxClock.h"
 #include "platform/linux/LinuxFiles.h"
 #include "platform/linux/LinuxLocale.h"
@@ -14,7 +15,7 @@ namespace {
 struct Linux {
     LinuxProcess process;
     LinuxClock clock;
-    LinuxRandom random;
+    StandardRandom random;
     LinuxSettings settings;
     LinuxFiles files;
     LinuxLocale locale;

@@ -1,5 +1,6 @@
 #include "platform/linux/LinuxShell.h"
 
+#include "platform/Addresses.h"
 #include "platform/RuntimeError.h"
 
 #include <QDir>
@@ -29,17 +30,6 @@ constexpr Calculator kCalculators[] = {
     {"speedcrunch", ""},           {"xcalc", ""},
 };
 
-bool isAddress(std::string_view text) {
-    const QString address = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    constexpr const char* kSchemes[] = {"http://", "https://", "mailto:"};
-    const bool known =
-        std::any_of(std::begin(kSchemes), std::end(kSchemes), [&](const char* scheme) {
-            return address.startsWith(QLatin1String(scheme), Qt::CaseInsensitive);
-        });
-    return known && std::none_of(text.begin(), text.end(),
-                                 [](unsigned char c) { return c <= ' ' || c == 0x7F; });
-}
-
 // Whether the program came to run. It has a session of its own and no terminal, and its end is
 // nobody's concern: the process between the two is gone at once.
 bool startDetached(const QString& program, const QStringList& arguments, const QString& directory) {
@@ -59,7 +49,8 @@ int LinuxShell::ShellExecuteA(std::uintptr_t /*window*/, const char* operation, 
                               const char* /*parameters*/, const char* directory, int /*show*/) {
     if (!file || !*file)
         return kNotFound;
-    if ((operation && std::string_view(operation) != "open") || !isAddress(file))
+    const std::string address = addressToOpen(file);
+    if ((operation && std::string_view(operation) != "open") || address.empty())
         return kNoProgram;
     const QString where = directory ? QString::fromUtf8(directory) : QString();
     if (!where.isEmpty() && !QDir(where).exists())
@@ -67,7 +58,7 @@ int LinuxShell::ShellExecuteA(std::uintptr_t /*window*/, const char* operation, 
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (opener.isEmpty())
         return kNoProgram;
-    if (startDetached(opener, {QString::fromUtf8(file)}, where))
+    if (startDetached(opener, {QString::fromStdString(address)}, where))
         return kStarted;
     return QFileInfo(opener).isExecutable() ? kNotFound : kDenied;
 }

@@ -6,7 +6,7 @@ namespace platform {
 
 class LinuxShell final : public Shell {
 public:
-    // For http, https and mailto addresses alone, through the desktop's opener. The address is one
+    // Through the desktop's opener. The address is one
     // argument of it: no command interpreter of ours reads it.
     int ShellExecuteA(std::uintptr_t window, const char* operation, const char* file,
                       const char* parameters, const char* directory, int show) override;

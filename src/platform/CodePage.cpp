@@ -1,8 +1,4 @@
-#include "platform/linux/CodePage.h"
-
-#include <unicode/ulocdata.h>
-#include <unicode/uset.h>
-#include <unicode/utf8.h>
+#include "platform/CodePage.h"
 
 #include <cstdint>
 #include <cstring>
@@ -12,48 +8,11 @@ namespace platform {
 
 namespace {
 
-// Sentinels in the place of a character: no code page holds lone surrogates.
+// Marks in the place of a character: no code page holds lone surrogates.
 constexpr char16_t kNoCharacter = 0xD800;
 constexpr char16_t kLeadByte = 0xD801;
 constexpr unsigned kNoCode = 0xFFFF;
 constexpr unsigned kCodes = 0x10000;
-
-// In an order in which the first of several that would do is the one in use.
-constexpr int kCandidates[] = {1252, 1250, 1251, 1253, 1254, 1255, 1256,
-                               1257, 1258, 874,  932,  949,  950,  936};
-
-UConverter* openConverter(int number) {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::string name = "windows-" + std::to_string(number);
-    return ucnv_open(name.c_str(), &status);
-}
-
-struct CloseSet {
-    void operator()(USet* it) const { uset_close(it); }
-};
-using Set = std::unique_ptr<USet, CloseSet>;
-
-Set lettersOf(const std::string& locale) {
-    UErrorCode status = U_ZERO_ERROR;
-    ULocaleData* data = ulocdata_open(locale.c_str(), &status);
-    Set letters(ulocdata_getExemplarSet(data, nullptr, 0, ULOCDATA_ES_STANDARD, &status));
-    ulocdata_close(data);
-    if (U_FAILURE(status))
-        letters.reset(uset_openEmpty());
-    uset_removeAllStrings(letters.get());
-    return letters;
-}
-
-int lettersMissing(const Set& letters, int number) {
-    UErrorCode status = U_ZERO_ERROR;
-    UConverter* converter = openConverter(number);
-    const Set covered(uset_openEmpty());
-    ucnv_getUnicodeSet(converter, covered.get(), UCNV_ROUNDTRIP_SET, &status);
-    ucnv_close(converter);
-    const Set missing(uset_clone(letters.get()));
-    uset_removeAll(missing.get(), covered.get());
-    return uset_size(missing.get());
-}
 
 // Eight bytes at a time while they are ASCII.
 std::size_t asciiRun(std::string_view text, std::size_t from) {
@@ -89,46 +48,41 @@ unsigned carriedByte(std::string_view text, std::size_t at) {
     return (text[at + 1] & 0x03U) << 6 | (text[at + 2] & 0x3FU);
 }
 
-} // namespace
+constexpr char32_t kIllFormed = 0xFFFFFFFF;
 
-int ansiCodePage(const std::string& locale) {
-    // Where the letters fit into another code page too, or into none.
-    constexpr struct {
-        const char* locale;
-        int number;
-    } kExceptions[] = {{"et_", 1257},  {"sq_", 1250},  {"vi_", 1258},
-                       {"zh_TW", 950}, {"zh_HK", 950}, {"zh_MO", 950}};
-    for (const auto& exception : kExceptions)
-        if (locale.starts_with(exception.locale))
-            return exception.number;
-
-    const Set letters = lettersOf(locale);
-    int best = 0, fewest = 0;
-    for (const int number : kCandidates) {
-        const int missing = lettersMissing(letters, number);
-        if (missing == 0)
-            return number;
-        if (best == 0 || missing < fewest) {
-            best = number;
-            fewest = missing;
-        }
+// The character at `at`, which moves behind it. Bytes that are none are passed over as far as they
+// might have begun one.
+char32_t nextCharacter(std::string_view text, std::size_t& at) {
+    const auto lead = static_cast<unsigned char>(text[at++]);
+    if (lead < 0xC2 || lead > 0xF4)
+        return lead < 0x80 ? lead : kIllFormed;
+    const int more = lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
+    unsigned lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+    unsigned highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+    char32_t c = lead & (0x3FU >> more);
+    for (int i = 0; i < more; ++i) {
+        const unsigned byte = at < text.size() ? static_cast<unsigned char>(text[at]) : 0;
+        if (byte < lowest || byte > highest)
+            return kIllFormed;
+        c = c << 6 | (byte & 0x3F);
+        ++at;
+        lowest = 0x80;
+        highest = 0xBF;
     }
-    return best;
+    return c;
 }
 
-CodePage::CodePage(int number)
-    : converter_(openConverter(number)),
+} // namespace
+
+CodePage::CodePage(std::unique_ptr<CodePageTable> table)
+    : table_(std::move(table)),
       unicode_(static_cast<char16_t*>(std::calloc(kCodes, sizeof(char16_t)))),
       code_(static_cast<char16_t*>(std::calloc(kCodes, sizeof(char16_t)))) {
     if (!unicode_ || !code_)
         throw std::bad_alloc();
-    UErrorCode status = U_ZERO_ERROR;
-    ucnv_setFallback(converter_.get(), true);
-    ucnv_setToUCallBack(converter_.get(), UCNV_TO_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
-                        &status);
-    ucnv_setFromUCallBack(converter_.get(), UCNV_FROM_U_CALLBACK_STOP, nullptr, nullptr, nullptr,
-                          &status);
 }
+
+CodePage::~CodePage() = default;
 
 std::string CodePage::decode(std::string_view bytes) const {
     std::string text;
@@ -170,9 +124,8 @@ std::string CodePage::encode(std::string_view text) const {
             at += 3;
             continue;
         }
-        UChar32 c = 0;
-        U8_NEXT(text.data(), at, text.size(), c);
-        const unsigned code = c < 0 || c > 0xFFFF ? kNoCode : codeOf(static_cast<char16_t>(c));
+        const char32_t c = nextCharacter(text, at);
+        const unsigned code = c > 0xFFFF ? kNoCode : codeOf(static_cast<char16_t>(c));
         if (code == kNoCode) {
             bytes += '?';
             continue;
@@ -200,26 +153,19 @@ unsigned CodePage::codeOf(char16_t character) const {
 
 char16_t CodePage::askUnicodeOf(unsigned code) const {
     const bool two = code > 0xFF;
-    const char bytes[] = {static_cast<char>(two ? code >> 8 : code), static_cast<char>(code)};
-    UChar answer[4] = {};
-    UErrorCode status = U_ZERO_ERROR;
-    const int length = ucnv_toUChars(converter_.get(), answer, 4, bytes, two ? 2 : 1, &status);
-    if (status == U_TRUNCATED_CHAR_FOUND && !two)
+    if (!two && table_->isLeadByte(static_cast<unsigned char>(code)))
         return kLeadByte;
-    if (U_FAILURE(status) || length != 1 || answer[0] < 0x80 || U16_IS_SURROGATE(answer[0]) ||
-        codeOf(answer[0]) != code)
-        return kNoCharacter;
-    return answer[0];
+    const char bytes[] = {static_cast<char>(two ? code >> 8 : code), static_cast<char>(code)};
+    const char16_t c = table_->character({bytes, two ? 2U : 1U});
+    return c < 0x80 || (c & 0xF800) == 0xD800 || codeOf(c) != code ? kNoCharacter : c;
 }
 
 unsigned CodePage::askCodeOf(char16_t character) const {
-    char answer[8] = {};
-    UErrorCode status = U_ZERO_ERROR;
-    const int length = ucnv_fromUChars(converter_.get(), answer, 8, &character, 1, &status);
-    if (U_FAILURE(status) || length < 1 || length > 2)
+    const std::string bytes = table_->bytes(character);
+    if (bytes.empty() || bytes.size() > 2)
         return kNoCode;
-    const auto first = static_cast<unsigned char>(answer[0]);
-    return length == 1 ? first : first << 8U | static_cast<unsigned char>(answer[1]);
+    const auto first = static_cast<unsigned char>(bytes[0]);
+    return bytes.size() == 1 ? first : first << 8U | static_cast<unsigned char>(bytes[1]);
 }
 
 } // namespace platform
