@@ -37,9 +37,9 @@ bool isNumber(const Token& token) {
     return token.digits > 0;
 }
 
-// Whether the text goes on with the letter of "2005-07-25t18:42".
+// Whether the text goes on with the letter of "2005-07-25T18:42".
 bool isIsoTime(const Tokens& before, std::string_view text) {
-    if (text.size() < 2 || text[0] != 't' || !isDigit(text[1]))
+    if (text.size() < 2 || text[0] != 'T' || !isDigit(text[1]))
         return false;
     const auto first = std::ranges::find_if(before, isNumber);
     return std::ranges::count_if(before, isNumber) == 3 && first->digits == 4;

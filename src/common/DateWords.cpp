@@ -9,18 +9,6 @@ namespace quorvanta {
 
 namespace {
 
-// The small letter of a capital one, in the alphabets of two bytes that have both.
-unsigned smallLetter(unsigned c) {
-    const auto within = [c](unsigned first, unsigned last) { return c >= first && c <= last; };
-    if ((within(0xC0, 0xDE) && c != 0xD7) || within(0x391, 0x3A9) || within(0x410, 0x42F))
-        return c + 0x20;
-    if (within(0x400, 0x40F))
-        return c + 0x50;
-    if (within(0x100, 0x137) || within(0x14A, 0x177))
-        return c | 1U;
-    return within(0x139, 0x148) || within(0x179, 0x17E) ? c + c % 2 : c;
-}
-
 // A name ends where no letter of its alphabet follows. Chinese, Japanese and Korean are written
 // without blanks, and so are some fillers.
 bool endsThere(const DateWord& word, std::string_view rest) {
@@ -41,23 +29,10 @@ bool isLetter(char c) {
 }
 
 std::string folded(std::string_view text) {
-    std::string plain;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-        const std::string_view rest = text.substr(at);
-        if (rest.starts_with("\u00A0") || rest.starts_with("\u202F")) {
-            plain += ' ';
-            at += byte(at) == 0xC2 ? 1 : 2;
-        } else if ((byte(at) & 0xE0U) == 0xC0 && rest.size() > 1) {
-            const unsigned c = smallLetter((byte(at) & 0x1FU) << 6U | (byte(at + 1) & 0x3FU));
-            plain += static_cast<char>(0xC0 | c >> 6U);
-            plain += static_cast<char>(0x80 | (c & 0x3FU));
-            ++at;
-        } else {
-            plain +=
-                static_cast<char>(byte(at) >= 'A' && byte(at) <= 'Z' ? byte(at) + 32 : byte(at));
-        }
-    }
+    std::string plain = platform::current().locale.upperCase(text);
+    for (const std::string_view blank : {"\u00A0", "\u202F"})
+        for (std::size_t at = 0; (at = plain.find(blank, at)) != std::string::npos; ++at)
+            plain.replace(at, blank.size(), 1, ' ');
     return plain;
 }
 

@@ -32,7 +32,7 @@ private:
     DateWord nameless_; // a name that the locale doesn't have
 };
 
-// The text as words are compared: with plain blanks and small letters.
+// The text as words are compared: in capitals, and with plain blanks.
 std::string folded(std::string_view text);
 
 // A letter of any alphabet, or a part of one.

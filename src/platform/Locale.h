@@ -19,6 +19,10 @@ public:
     // values the published forms ("M/d/yyyy").
     virtual std::optional<std::string> GetLocaleInfoA(int locale, int item) const = 0;
 
+    // The text in capitals, as the language of the dates writes them: "EKİM" for the Turkish
+    // "ekim". Texts that differ in nothing but their capitals become the same.
+    virtual std::string upperCase(std::string_view text) const = 0;
+
     // Text of a file, in the user's code page, as UTF-8, and back. Every byte sequence comes back
     // from toBytes(fromBytes(x)) as it was, also bytes that the code page leaves undefined. A
     // character that the code page doesn't have becomes "?".

@@ -156,6 +156,12 @@ struct FakeLocale : platform::Locale {
         const auto it = items.find(item);
         return it == items.end() ? std::nullopt : std::optional(it->second);
     }
+    std::string upperCase(std::string_view text) const override {
+        std::string capitals(text);
+        for (char& c : capitals)
+            c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+        return capitals;
+    }
     std::string fromBytes(std::string_view bytes) const override { return std::string(bytes); }
     std::string toBytes(std::string_view text) const override { return std::string(text); }
 };

@@ -5,6 +5,7 @@
 #include "platform/linux/LocaleTables.h"
 #include "platform/linux/Pictures.h"
 
+#include <unicode/locid.h>
 #include <unicode/ucurr.h>
 #include <unicode/udat.h>
 #include <unicode/uloc.h>
@@ -183,6 +184,13 @@ std::optional<std::string> LinuxLocale::GetLocaleInfoA(int locale, int item) con
         return std::nullopt;
     const std::string& text = itemText(item);
     return text.empty() ? std::nullopt : std::optional(text);
+}
+
+std::string LinuxLocale::upperCase(std::string_view text) const {
+    std::string result;
+    return icu::UnicodeString::fromUTF8(text)
+        .toUpper(icu::Locale(categories_.dates.c_str()))
+        .toUTF8String(result);
 }
 
 std::string LinuxLocale::fromBytes(std::string_view bytes) const {

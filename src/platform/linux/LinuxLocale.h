@@ -25,6 +25,7 @@ public:
     ~LinuxLocale() override;
 
     std::optional<std::string> GetLocaleInfoA(int locale, int item) const override;
+    std::string upperCase(std::string_view text) const override;
     std::string fromBytes(std::string_view bytes) const override;
     std::string toBytes(std::string_view text) const override;
 
