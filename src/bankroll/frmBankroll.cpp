@@ -15,6 +15,12 @@ namespace quorvanta {
 
 namespace {
 
+constexpr Page::Design kDesign{.name = "frmBankroll",
+                               .clientWidth = 4005,
+                               .clientHeight = 3165,
+                               .title = "Bankroll",
+                               .website = "Quorvanta Website"};
+
 constexpr int kDate = 0;
 constexpr int kMoneyBoxes = 3; // 1 to 3
 
@@ -37,7 +43,7 @@ double difference(double from, double less) {
 
 } // namespace
 
-frmBankroll::frmBankroll() : FormOf(Kind::MDIChild, "frmBankroll", 4005, 3165) {
+frmBankroll::frmBankroll() : FormOf(kDesign, &Page::mnuBankroll) {
     buildBoxes();
     fraBankroll.TabIndex = 6;
     lblBalance.TabIndex = 12;
@@ -49,26 +55,26 @@ frmBankroll::frmBankroll() : FormOf(Kind::MDIChild, "frmBankroll", 4005, 3165) {
     lblBalance.BackColor = toolkit::kWhite; // neither colour can be read on a dark ground
     cmdCancel.TabIndex = 4;
     cmdCancel.Cancel = true;
-    cmdCancel.Click = [this] { Unload(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
     cmdCalc.TabIndex = 5;
     cmdCalc.Click = [this] { cmdCalc_Click(); };
-    mnuBankroll.Enabled = false; // it would show the page that it stands on
+    mnuMainFrom.Click = mnuMainFrom_Click;
 }
 
 void frmBankroll::buildBoxes() {
-    struct Design {
+    struct Box {
         int label, labelTabIndex, box, boxTabIndex;
         const char *caption, *toolTip;
         double left, top, labelWidth;
     };
-    constexpr Design kDesigns[] = {
+    constexpr Box kBoxes[] = {
         {51, 11, 0, 0, "Date Started", "Date Started", 195, 330, 1800},
         {54, 8, 2, 1, "Total Amount of Bets", "Total Amount Played", 2115, 330, 1620},
         {52, 10, 1, 2, "Winnings  ", "Total amount won", 195, 945, 750},
         {53, 9, 3, 3, "Largest Win", "Largest win to date", 2115, 945, 1620},
         {55, 7, -1, 0, "Balance", "", 195, 1485, 1785},
     };
-    for (const Design& it : kDesigns) {
+    for (const Box& it : kBoxes) {
         auto& label = lbl1.load(it.label, fraBankroll, it.caption,
                                 toolkit::Place{it.left, it.top, it.labelWidth, 210});
         label.design = {.name = "Arial", .size = 8.25, .underline = true};
@@ -87,12 +93,6 @@ void frmBankroll::buildBoxes() {
     lbl1(55).TextAlign = toolkit::Alignment::Centre;
     txtWin.GotFocus = [this](int Index) { txtWin_GotFocus(Index); };
     txtWin.LostFocus = [this](int Index) { txtWin_LostFocus(Index); };
-}
-
-void frmBankroll::Form_Load() {
-    Caption = std::string(kProductTitle) + " - Bankroll";
-    SetFormProperties();
-    CenterChild(*this);
 }
 
 void frmBankroll::SetFormProperties() {

@@ -2,14 +2,13 @@
 // its shared value when it loses the focus, and the balance is worked out anew then.
 #pragma once
 
-#include "frame/Navigation.h"
-#include "toolkit/Form.h"
+#include "frame/Page.h"
 
 #include <string>
 
 namespace quorvanta {
 
-class frmBankroll : public toolkit::FormOf<frmBankroll> {
+class frmBankroll : public toolkit::FormOf<frmBankroll, Page> {
 public:
     frmBankroll();
 
@@ -22,24 +21,12 @@ public:
     toolkit::CommandButton cmdCancel{*this, "cmdCancel", "Close", {120, 2520, 1530, 495}};
     toolkit::CommandButton cmdCalc{*this, "cmdCalc", "Calculator", {2370, 2520, 1530, 500}};
 
-    toolkit::Menu mnuFile{*this, "mnuFile", "&File"};
-    toolkit::Menu mnuMainFrom{mnuFile, "mnuMainFrom", "6 From 49", mnuMainForm_Click};
-    toolkit::Menu mnuBankroll{mnuFile, "mnuBankroll", "Bankroll"};
-    toolkit::Menu mnuCustomize{mnuFile, "mnuCustomize", "Customize 6", mnuCustomize_Click};
-    toolkit::Menu mnuFavorites{mnuFile, "mnuFavorites", "Favorites", mnuFavorites_Click};
-    toolkit::Menu mnuLine1{mnuFile, "mnuLine1", "-"};
-    toolkit::Menu mnuClose{mnuFile, "mnuClose", "&Close", [this] { Unload(); }};
-    toolkit::Menu mnuQuorvantalite{*this, "mnuQuorvantalite", "Quor Vanta"};
-    toolkit::Menu mnuWebsite{mnuQuorvantalite, "mnuWebsite", "Quorvanta Website",
-                             [this] { mnuWebsite_Click(*this); }};
-    toolkit::Menu mnuHelp{*this, "mnuHelp", "Help"};
-    toolkit::Menu mnuContents{mnuHelp, "mnuContents", "Contents",
-                              [this] { mnuContents_Click(*this); }};
-    toolkit::Menu mnuLine2{mnuHelp, "mnuLine2", "-"};
-    toolkit::Menu mnuAbout{mnuHelp, "mnuAbout", "About", mnuAbout_Click};
+    // The names by which this page calls two of the menus.
+    toolkit::Menu& mnuMainFrom = mnuMainForm;
+    toolkit::Menu& mnuQuorvantalite = mnuQuorvantaLite;
 
 protected:
-    void Form_Load() override;
+    void SetFormProperties() override;
 
 private:
     void buildBoxes();
@@ -47,8 +34,8 @@ private:
     void txtWin_GotFocus(int Index);
     void txtWin_LostFocus(int Index);
     void cmdCalc_Click();
+    static void mnuMainFrom_Click() { mnuMainForm_Click(); }
 
-    void SetFormProperties();
     void findCalculator(const std::string& directory);
     void fillDate(const std::string& text);
 

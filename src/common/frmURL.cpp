@@ -8,7 +8,7 @@ namespace quorvanta {
 
 frmURL::frmURL() : FormOf(Kind::TopLevel, "frmURL", 5145, 2865) {
     cmdOk.Default = true;
-    cmdOk.Click = [this] { Unload(); };
+    cmdOk.Click = [this] { cmdOk_Click(); };
     cmdCancel.Cancel = true;
     img1.Picture = "website";
     lbl2.TextAlign = Label1.TextAlign = toolkit::Alignment::Right;
@@ -17,16 +17,27 @@ frmURL::frmURL() : FormOf(Kind::TopLevel, "frmURL", 5145, 2865) {
     for (toolkit::TextBox* box : {&Txt1, &Txt2}) { // for copying, not for typing
         box->shrinksText = true;
         box->Locked = true;
-        box->GotFocus = SelectAllText;
-        box->KeyDown = [](int& KeyCode, int /*Shift*/) { KeyCode = 0; };
-        box->KeyPress = [](int& KeyAscii) { KeyAscii = 0; };
     }
+    Txt1.GotFocus = Txt1_GotFocus;
+    Txt1.KeyDown = Txt1_KeyDown;
+    Txt1.KeyPress = Txt1_KeyPress;
+    Txt2.GotFocus = Txt2_GotFocus;
+    Txt2.KeyDown = Txt2_KeyDown;
+    Txt2.KeyPress = Txt2_KeyPress;
 }
 
 void frmURL::Form_Load() {
     Caption = std::string(kProductTitle) + " - Website";
     CenterForm(*this);
     SetProperties();
+}
+
+void frmURL::Txt1_GotFocus() {
+    SelectAllText();
+}
+
+void frmURL::Txt2_GotFocus() {
+    SelectAllText();
 }
 
 void frmURL::SetProperties() {

@@ -23,6 +23,15 @@ protected:
     void Form_Load() override;
 
 private:
+    // The boxes drop every key.
+    static void Txt1_GotFocus();
+    static void Txt1_KeyDown(int& KeyCode, int /*Shift*/) { KeyCode = 0; }
+    static void Txt1_KeyPress(int& KeyAscii) { KeyAscii = 0; }
+    static void Txt2_GotFocus();
+    static void Txt2_KeyDown(int& KeyCode, int /*Shift*/) { KeyCode = 0; }
+    static void Txt2_KeyPress(int& KeyAscii) { KeyAscii = 0; }
+    void cmdOk_Click() { Unload(); }
+
     void SetProperties();
 };
 

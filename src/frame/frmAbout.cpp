@@ -68,7 +68,7 @@ frmAbout::frmAbout() : FormOf(Kind::TopLevel, "frmAbout", 4860, 3900) {
     img1.Picture = "zephyrwick";
     img1.spokenAs = kMaker;
     cmdOK.TabIndex = 7;
-    cmdOK.Click = [this] { Unload(); };
+    cmdOK.Click = [this] { cmdOK_Click(); };
     Timer1.Interval = kTick;
     Timer1.Tick = [this] { Timer1_Timer(); };
 }

@@ -28,6 +28,7 @@ protected:
 
 private:
     void NameUser();
+    void cmdOK_Click() { Unload(); }
     void Timer1_Timer();
     void pic1_DblClick();
 

@@ -1,6 +1,7 @@
 #include "lists/ListPage.h"
 
 #include "common/Trap.h"
+#include "common/modZWMsg.h"
 #include "frame/MainCode_ZW.h"
 #include "frame/modConstants.h"
 #include "lists/Keypad.h"
@@ -17,17 +18,19 @@ namespace {
 
 constexpr int kCtrl = 2; // of the keys held down, Ctrl alone
 
-// The cells of a stored row into the grid. Only a cell that a ";" ends counts, and the cells that
-// the text doesn't reach keep what they hold.
-void showCells(toolkit::MSFlexGrid& grid, int row, const std::string& text, int lastColumn) {
+// The cells of a stored row. Only a cell that a ";" ends counts, and of those only the first
+// `most`.
+std::vector<std::string> cellsOf(const std::string& text, int most) {
+    std::vector<std::string> cells;
     std::size_t from = 0;
-    for (int c = 1; c <= lastColumn; ++c) {
+    for (int c = 1; c <= most; ++c) {
         const std::size_t end = text.find(';', from);
         if (end == std::string::npos)
-            return;
-        grid.TextMatrix(row, c) = text.substr(from, end - from);
+            break;
+        cells.push_back(text.substr(from, end - from));
         from = end + 1;
     }
+    return cells;
 }
 
 std::string joinCells(const toolkit::MSFlexGrid& grid, int row, int lastColumn) {
@@ -47,35 +50,28 @@ int firstFreeRow(const toolkit::MSFlexGrid& grid) {
 
 } // namespace
 
-ListPage::ListPage(const Design& design)
-    : Form(Kind::MDIChild, design.name, design.clientWidth, design.clientHeight),
+ListPage::ListPage(const Design& design, toolkit::Menu Page::*ownEntry)
+    : Page(design.page, ownEntry),
       frKeys(*this, "frKeys", "Keypad", {design.keypadLeft, design.keypadTop, 3945, 2745}),
       grd1(*this, "grd1", design.grid),
       cmdReset(*this, "cmdReset", "&Reset", {design.resetLeft, design.buttonTop, 1155, 500}),
       cmdCopy(*this, "cmdCopy", "&File to Grid", {design.copyLeft, design.buttonTop, 1155, 500}),
       cmdCancel(*this, "cmdCancel", "Close", design.cancel),
       statBar1(*this, "statBar1", {}, design.statBar),
-      mnuFile(*this, "mnuFile", design.fileMenu),
-      mnuList(*this, design.listMenuName, design.listMenu),
-      mnuWebsite(mnuQuorvantaLite, "mnuWebsite", design.website,
-                 [this] { mnuWebsite_Click(*this); }),
       design_(design) {
     KeyPreview = true;
     buildKeypad(frKeys, cmdKey);
-    cmdKey.Click = [this](int Index) {
-        grd1.Row = 0;
-        pickNumber(Index);
-    };
+    cmdKey.Click = [this](int Index) { cmdKey_Click(Index); };
     cmdReset.ToolTipText = "Resets the Keypad";
     cmdReset.Click = [this] { cmdReset_Click(); };
     cmdCopy.ToolTipText = "Copies numbers to Custom Numbers";
     cmdCopy.Click = [this] { cmdCopy_Click(); };
     cmdCancel.Cancel = true;
-    cmdCancel.Click = [this] { Unload(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
     grd1.spokenAs = design.corner;
     grd1.Click = [this] { grd1_Click(); };
     grd1.DblClick = [this] { grd1_DblClick(); };
-    grd1.LostFocus = [this] { leaveShiftMode(); };
+    grd1.LostFocus = [this] { grd1_LostFocus(); };
 }
 
 void ListPage::setTabOrder(std::initializer_list<toolkit::Control*> controls) {
@@ -86,12 +82,6 @@ void ListPage::setTabOrder(std::initializer_list<toolkit::Control*> controls) {
             for (toolkit::Control* within : inner->controls())
                 within->TabIndex = index++;
     }
-}
-
-void ListPage::Form_Load() {
-    Caption = std::string(kProductTitle) + " - " + design_.title;
-    layOutGrid();
-    CenterChild(*this);
 }
 
 void ListPage::writeHeaders(const Step& step) {
@@ -108,61 +98,51 @@ void ListPage::halveColumns(const Step& step) {
             [&] { grd1.setColWidth(c, static_cast<int>(std::nearbyint(grd1.ColWidth(c) / 2.0))); });
 }
 
-void ListPage::getRows(const char* label) {
-    trapped(label, [&](auto step) {
+void ListPage::getRows() {
+    trapped(design_.labels.get, [&](auto step) {
+        for (int r = 1; r <= kRows; ++r) {
+            int column = 0;
+            for (const std::string& cell : cellsOf(design_.rows.at(r), design_.lastColumn)) {
+                ++column;
+                step([&] { grd1.TextMatrix(r, column) = cell; });
+            }
+        }
+    });
+}
+
+void ListPage::setRows() {
+    trapped(design_.labels.set, [&](auto step) {
         for (int r = 1; r <= kRows; ++r)
-            step([&] {
-                showCells(grd1, r, design_.rows.at(static_cast<std::size_t>(r)),
-                          design_.lastColumn);
-            });
+            step([&] { design_.rows.at(r) = joinCells(grd1, r, design_.lastColumn); });
     });
 }
 
-void ListPage::setRows(const char* label) {
-    trapped(label, [&](auto step) {
-        for (int r = 1; r <= kRows; ++r)
-            step([&] {
-                design_.rows.at(static_cast<std::size_t>(r)) =
-                    joinCells(grd1, r, design_.lastColumn);
-            });
-    });
+void ListPage::toggleKey(const Step& step, int number) {
+    cLotto lotto;
+    step([&] { lotto.prpControl = cmdKey.ref(); });
+    lotto.mintFrmButtons = number;
+    step([&] { lotto.prpActionToDo = cLotto::ToggleKey; });
 }
 
-void ListPage::toggleKey(const char* label, int number) {
-    trapped(label, [&](auto step) {
-        cLotto lotto;
-        step([&] { lotto.prpControl = cmdKey.ref(); });
-        lotto.mintFrmButtons = number;
-        step([&] { lotto.prpActionToDo = cLotto::ToggleKey; });
-    });
-}
-
-bool ListPage::fileRow(const char* label, int atLeast, void (*rowsAreFull)(), void (*tooFew)()) {
+bool ListPage::fileRow() {
     bool filed = false;
-    trapped(label, [&](auto step) {
+    trapped(design_.labels.file, [&](auto step) {
         int row = 0;
         std::vector<int> numbers;
         step([&] { row = firstFreeRow(grd1); });
         if (row == 0)
-            return rowsAreFull();
+            return design_.msgRowsAreFull();
         step([&] { numbers = pickedNumbers(cmdKey); });
-        if (static_cast<int>(numbers.size()) < atLeast)
-            return tooFew();
-        int column = 1;
+        if (static_cast<int>(numbers.size()) < design_.leastNumbers)
+            return design_.msgTooFewPicked();
+        int column = 0;
         for (const int number : numbers) {
-            step([&] { grd1.TextMatrix(row, column) = std::to_string(number); });
             ++column;
+            step([&] { grd1.TextMatrix(row, column) = std::to_string(number); });
         }
         filed = true;
     });
     return filed;
-}
-
-void ListPage::cmdCopy_Click() {
-    if (!fileNumbers())
-        return;
-    cmdReset_Click();
-    storeRows();
 }
 
 void ListPage::cmdReset_Click() {
@@ -171,25 +151,8 @@ void ListPage::cmdReset_Click() {
     grd1.Row = 0;
 }
 
-void ListPage::grd1_DblClick() {
-    const int row = grd1.Row;
-    if (row == 0 || grd1.TextMatrix(row, design_.deleteTest).empty()) {
-        msgNoDeleteRow();
-        if (design_.refusalUnchooses)
-            grd1.Row = 0;
-        return;
-    }
-    if (!msgDeleteGridRow()) {
-        grd1.Row = design_.rowAfterNo;
-        return;
-    }
-    deleteRow(row);
-    storeRows();
-    grd1.Row = 0;
-}
-
-void ListPage::removeRow(const char* label, int row) {
-    trapped(label, [&](auto step) {
+void ListPage::DeleteGridRow(int row) {
+    trapped(design_.labels.remove, [&](auto step) {
         cFlexGrid rows;
         step([&] { rows.prpGrid = grd1.ref(); });
         rows.prpActiveRow = row;
@@ -197,6 +160,8 @@ void ListPage::removeRow(const char* label, int row) {
         rows.prpEndPos = design_.lastColumn;
         step([&] { rows.prpActionToDo = cFlexGrid::ClearRow; });
         step([&] { rows.prpActionToDo = cFlexGrid::CloseGap; });
+        if (design_.deletingUnchooses)
+            step([&] { grd1.Row = 0; });
     });
 }
 
@@ -264,7 +229,7 @@ void ListPage::ShiftRows() {
         rows.prpActiveRow = mintFirstRow;
         rows.prpSecondRow = mintSecondRow;
         step([&] { rows.prpActionToDo = cFlexGrid::SwapRows; });
-        step([&] { storeRows(); });
+        step([&] { setRows(); });
     });
 }
 

@@ -1,37 +1,36 @@
 // What the pages of number rows have in common: a keypad on which numbers are picked, a grid of ten
-// rows into which they are filed, the ways to delete a row and to swap two of them, and the menus.
+// rows into which they are filed, and the ways to delete a row and to swap two of them.
 //
 // Which numbers are picked is held in FontBold of the keys alone. While the page is open the grid
 // holds the rows; after each change they are stored as shared texts. In grid row r stands row r,
 // its numbers from column 1 on; a row whose cell in column 1 is empty is free.
 #pragma once
 
-#include "common/modZWMsg.h"
-#include "frame/Navigation.h"
+#include "frame/Page.h"
 #include "frame/modQuorvantaLite.h"
-#include "toolkit/Form.h"
 
 #include <functional>
 #include <initializer_list>
 
 namespace quorvanta {
 
-class ListPage : public toolkit::Form {
+class ListPage : public Page {
 public:
     // What differs between the pages.
     struct Design {
-        const char* name;
-        double clientWidth, clientHeight;
-        const char* title;     // the page's part of the caption
-        const char* corner;    // the header of the row headers
-        RowTexts& rows;        // where the rows are stored
-        int lastColumn;        // cells in a row
-        int deleteTest;        // the column whose cell is empty in a row that can't be deleted
-        bool refusalUnchooses; // whether a deletion without data leaves no row chosen
-        int rowAfterNo;        // the current row after a deletion that the user has declined
+        Page::Design page;
+        const char* corner;        // the header of the row headers
+        RowTexts& rows;            // where the rows are stored
+        int leastNumbers;          // in a row that is filed
+        int lastColumn;            // cells in a row
+        void (*msgRowsAreFull)();  // no row is free
+        void (*msgTooFewPicked)(); // fewer than leastNumbers are picked
+        bool deletingUnchooses;    // whether DeleteGridRow leaves no row chosen
+        struct {                   // under which failures are reported
+            const char *get, *set, *file, *remove;
+        } labels;
         double keypadLeft, keypadTop, buttonTop, resetLeft, copyLeft;
         toolkit::Place grid, cancel, statBar;
-        const char *fileMenu, *listMenuName, *listMenu, *website;
     };
 
     toolkit::Frame frKeys;
@@ -42,54 +41,33 @@ public:
     toolkit::CommandButton cmdCancel;
     toolkit::StatusBar statBar1;
 
-    toolkit::Menu mnuFile;
-    toolkit::Menu mnuMainForm{mnuFile, "mnuMainForm", "6 From 49", mnuMainForm_Click};
-    toolkit::Menu mnuBankroll{mnuFile, "mnuBankroll", "Bankroll", mnuBankroll_Click};
-    toolkit::Menu mnuCustomize{mnuFile, "mnuCustomize", "Customize 6", mnuCustomize_Click};
-    toolkit::Menu mnuFavorites{mnuFile, "mnuFavorites", "Favorites", mnuFavorites_Click};
-    toolkit::Menu mnuX342{mnuFile, "mnuX342", "-"};
-    toolkit::Menu mnuClose{mnuFile, "mnuClose", "&Close", [this] { Unload(); }};
-    toolkit::Menu mnuList; // the page's own menu, with entries of its own
-    toolkit::Menu mnuQuorvantaLite{*this, "mnuQuorvantaLite", "Quor Vanta"};
-    toolkit::Menu mnuWebsite;
-    toolkit::Menu mnuHelp{*this, "mnuHelp", "Help"};
-    toolkit::Menu mnuContents{mnuHelp, "mnuContents", "Contents",
-                              [this] { mnuContents_Click(*this); }};
-    toolkit::Menu mnu117{mnuHelp, "mnu117", "-"};
-    toolkit::Menu mnuAbout{mnuHelp, "mnuAbout", "About", mnuAbout_Click};
-
 protected:
-    explicit ListPage(const Design& design);
+    ListPage(const Design& design, toolkit::Menu Page::*ownEntry);
 
-    void Form_Load() override;
-    void Form_Unload() override { storeRows(); }
     void Form_KeyDown(int& KeyCode, int Shift) override;
 
-    // What a page does in its own way, or under a name and a trap label of its own.
-    virtual void layOutGrid() = 0;           // at load
-    virtual void storeRows() = 0;            // the grid into the shared texts
-    virtual void pickNumber(int number) = 0; // a key was clicked
-    virtual bool fileNumbers() = 0;          // whether a row was filed
-    virtual void deleteRow(int row) = 0;
-    virtual void showRow() {} // a row was clicked outside shift mode
-    virtual void clearNumber(int number) { cmdKey(number).FontBold = false; }
-
-    void cmdCopy_Click();
+    virtual void cmdKey_Click(int Index) = 0;
+    virtual void cmdCopy_Click() = 0;
     void cmdReset_Click();
+    void mnuReset_Click() { cmdReset_Click(); }
     void grd1_Click();
-    virtual void grd1_DblClick();
+    virtual void grd1_DblClick() = 0;
+    void mnuDeleteGridRow_Click() { grd1_DblClick(); }
+    void grd1_LostFocus() { leaveShiftMode(); }
 
-    // The routines behind those of the pages. Each reports its failures under `label`.
-    void getRows(const char* label); // the shared texts into the grid
-    void setRows(const char* label); // the grid into the shared texts
-    void toggleKey(const char* label, int number);
-    bool fileRow(const char* label, int atLeast, void (*rowsAreFull)(), void (*tooFew)());
-    void removeRow(const char* label, int row);
+    virtual void clearNumber(int number) { cmdKey(number).FontBold = false; } // of Reset
+    virtual void showRow() {} // a row was clicked outside shift mode
 
-    // Each cell and each column is a step of its own of the routine that calls.
+    void getRows(); // the shared texts into the grid
+    void setRows(); // the grid into the shared texts
+    bool fileRow(); // the picked numbers into the first free row; whether that was done
+    void DeleteGridRow(int row);
+
+    // Each cell, column or property is a step of its own of the routine that calls.
     using Step = std::function<void(const std::function<void()>&)>;
     void writeHeaders(const Step& step);
     void halveColumns(const Step& step);
+    void toggleKey(const Step& step, int number);
     void setTabOrder(std::initializer_list<toolkit::Control*> controls);
 
     // Shift mode: two rows, picked one after the other, change places.

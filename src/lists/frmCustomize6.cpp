@@ -1,6 +1,7 @@
 #include "lists/frmCustomize6.h"
 
 #include "common/Trap.h"
+#include "common/modZWMsg.h"
 #include "numbers/Board.h"
 #include "numbers/cLotto.h"
 
@@ -9,8 +10,6 @@
 namespace quorvanta {
 
 namespace {
-
-constexpr int kLeastNumbers = kDrawn + 1; // a row holds more numbers than a draw takes
 
 constexpr BoardDesign kBoard{.frame = {120, 105, 3705, 3390},
                              .labels = {.lefts = {60, 570, 1080, 1590, 2100, 2610, 3120},
@@ -21,16 +20,23 @@ constexpr BoardDesign kBoard{.frame = {120, 105, 3705, 3390},
                              .fontSize = 14.25};
 
 const ListPage::Design& design() {
-    static const ListPage::Design it{.name = "frmCustomize6",
-                                     .clientWidth = 8085,
-                                     .clientHeight = 6165,
-                                     .title = "Customize 6",
+    static const ListPage::Design it{.page = {.name = "frmCustomize6",
+                                              .clientWidth = 8085,
+                                              .clientHeight = 6165,
+                                              .title = "Customize 6",
+                                              .website = "Quorvanta Lite Website",
+                                              .ownMenu = "Customize"},
                                      .corner = "Customized",
                                      .rows = gstrStammNumbers,
+                                     .leastNumbers = kDrawn + 1, // a draw leaves one at least
                                      .lastColumn = kNumbers,
-                                     .deleteTest = 3,
-                                     .refusalUnchooses = false,
-                                     .rowAfterNo = 0,
+                                     .msgRowsAreFull = msgMaxStammNumbers,
+                                     .msgTooFewPicked = msgNotEnoughStammNumbers,
+                                     .deletingUnchooses = false,
+                                     .labels = {.get = "frmCustomized.GetCustomizeUDTs",
+                                                .set = "frmCustomize6.SetCustomizeUDTs",
+                                                .file = "frmCustomize6.SetCustomNumbers",
+                                                .remove = "frmCustomize6.DeleteGridRow"},
                                      .keypadLeft = 3990,
                                      .keypadTop = 105,
                                      .buttonTop = 2940,
@@ -38,22 +44,17 @@ const ListPage::Design& design() {
                                      .copyLeft = 6795,
                                      .grid = {120, 3600, 7875, 1635},
                                      .cancel = {120, 5280, 1530, 495},
-                                     .statBar = {0, 5850, 8085, 315},
-                                     .fileMenu = "&File",
-                                     .listMenuName = "mnuCustom",
-                                     .listMenu = "Customize",
-                                     .website = "Quorvanta Lite Website"};
+                                     .statBar = {0, 5850, 8085, 315}};
     return it;
 }
 
 } // namespace
 
-frmCustomize6::frmCustomize6() : FormOf(design()) {
+frmCustomize6::frmCustomize6() : FormOf(design(), &Page::mnuCustomize) {
     buildBoard(*this, fra2, 1, Label1, kBoard);
     setTabOrder({&fra2(1), &frKeys, &cmdReset, &cmdAll, &cmdCopy, &grd1, &cmdCancel, &cmdJackpot});
-    cmdAll.Click = [this] { SetAllNumbers(); };
-    cmdJackpot.Click = [this] { GoCustomJackPot(kDraw); };
-    mnuCustomize.Enabled = false; // it would show the page that it stands on
+    cmdAll.Click = [this] { cmdAll_Click(); };
+    cmdJackpot.Click = [this] { cmdJackpot_Click(); };
     mnuJackpotGenerator.Shortcut = "F5";
 }
 
@@ -67,25 +68,33 @@ void frmCustomize6::SetFormProperties() {
     });
 }
 
-void frmCustomize6::SetCustomizeUDTs() {
-    setRows("frmCustomize6.SetCustomizeUDTs");
-}
-
-void frmCustomize6::GetCustomizeUDTs() {
-    getRows("frmCustomized.GetCustomizeUDTs");
+void frmCustomize6::cmdKey_Click(int Index) {
+    grd1.Row = 0;
+    SetCustomNumbers(Index);
 }
 
 void frmCustomize6::SetCustomNumbers(int Index) {
-    toggleKey("frmCustomize6.SetCustomNumbers", Index);
+    trapped("frmCustomize6.SetCustomNumbers", [&](auto step) { toggleKey(step, Index); });
 }
 
-bool frmCustomize6::SetCustomToGrid() {
-    return fileRow("frmCustomize6.SetCustomNumbers", kLeastNumbers, msgMaxStammNumbers,
-                   msgNotEnoughStammNumbers);
+void frmCustomize6::cmdCopy_Click() {
+    if (!SetCustomToGrid())
+        return;
+    cmdReset_Click();
+    SetCustomizeUDTs();
 }
 
-void frmCustomize6::DeleteGridRow(int row) {
-    removeRow("frmCustomize6.DeleteGridRow", row);
+void frmCustomize6::grd1_DblClick() {
+    const int row = grd1.Row;
+    if (row == 0 || grd1.TextMatrix(row, 3).empty()) {
+        msgNoDeleteRow();
+        return;
+    }
+    if (msgDeleteGridRow()) {
+        DeleteGridRow(row);
+        SetCustomizeUDTs();
+    }
+    grd1.Row = 0;
 }
 
 void frmCustomize6::clearNumber(int number) {

@@ -16,40 +16,44 @@ public:
     toolkit::CommandButton cmdJackpot{
         *this, "cmdJackpot", "&Jackpot Generator", {6465, 5280, 1530, 495}};
 
-    toolkit::Menu& mnuCustom = mnuList;
+    toolkit::Menu& mnuCustom = *ownMenu;
     toolkit::Menu mnuAllNumbers{mnuCustom, "mnuAllNumbers", "All Numbers",
-                                [this] { SetAllNumbers(); }};
+                                [this] { mnuAllNumbers_Click(); }};
     toolkit::Menu mnuLine1{mnuCustom, "mnuLine1", "-"};
     toolkit::Menu mnuDeleteGridRow{mnuCustom, "mnuDeleteGridRow", "Delete Grid Row",
-                                   [this] { grd1_DblClick(); }};
+                                   [this] { mnuDeleteGridRow_Click(); }};
     toolkit::Menu mnuLine2{mnuCustom, "mnuLine2", "-"};
     toolkit::Menu mnuFileToGrid{mnuCustom, "mnuFileToGrid", "File to Grid",
-                                [this] { cmdCopy_Click(); }};
+                                [this] { mnuFileToGrid_Click(); }};
     toolkit::Menu mnuLine3{mnuCustom, "mnuLine3", "-"};
-    toolkit::Menu mnuReset{mnuCustom, "mnuReset", "Reset", [this] { cmdReset_Click(); }};
+    toolkit::Menu mnuReset{mnuCustom, "mnuReset", "Reset", [this] { mnuReset_Click(); }};
     toolkit::Menu mnuLine4{mnuCustom, "mnuLine4", "-"};
     toolkit::Menu mnuJackpotGenerator{mnuCustom, "mnuJackpotGenerator", "Jackpot Generator",
-                                      [this] { GoCustomJackPot(kDraw); }};
+                                      [this] { mnuJackpotGenerator_Click(); }};
 
 protected:
-    void layOutGrid() override { SetFormProperties(); }
-    void storeRows() override { SetCustomizeUDTs(); }
-    void pickNumber(int number) override { SetCustomNumbers(number); }
-    bool fileNumbers() override { return SetCustomToGrid(); }
-    void deleteRow(int row) override { DeleteGridRow(row); }
-    void showRow() override { GoCustomJackPot(kShow); }
+    void SetFormProperties() override;
+    void Form_Unload() override { SetCustomizeUDTs(); }
+    void cmdKey_Click(int Index) override;
+    void cmdCopy_Click() override;
+    void grd1_DblClick() override;
     void clearNumber(int number) override;
+    void showRow() override { GoCustomJackPot(kShow); }
 
 private:
     static constexpr int kShow = 0; // the modes of GoCustomJackPot
     static constexpr int kDraw = 1;
 
-    void SetFormProperties();
-    void SetCustomizeUDTs();
-    void GetCustomizeUDTs();
+    void cmdAll_Click() { SetAllNumbers(); }
+    void mnuAllNumbers_Click() { cmdAll_Click(); }
+    void mnuFileToGrid_Click() { cmdCopy_Click(); }
+    void cmdJackpot_Click() { GoCustomJackPot(kDraw); }
+    void mnuJackpotGenerator_Click() { cmdJackpot_Click(); }
+
+    void GetCustomizeUDTs() { getRows(); }
+    void SetCustomizeUDTs() { setRows(); }
     void SetCustomNumbers(int Index);
-    bool SetCustomToGrid();
-    void DeleteGridRow(int row);
+    bool SetCustomToGrid() { return fileRow(); }
     void SetAllNumbers();
     void GoCustomJackPot(int mode);
 };

@@ -1,6 +1,7 @@
 #include "lists/frmFavorites.h"
 
 #include "common/Trap.h"
+#include "common/modZWMsg.h"
 #include "lists/Keypad.h"
 
 namespace quorvanta {
@@ -8,19 +9,26 @@ namespace quorvanta {
 namespace {
 
 constexpr int kMostNumbers = 6;
-constexpr int kLeastNumbers = 2;
 
 const ListPage::Design& design() {
-    static const ListPage::Design it{.name = "frmFavorites",
-                                     .clientWidth = 8265,
-                                     .clientHeight = 4245,
-                                     .title = "Favorites",
+    static const ListPage::Design it{.page = {.name = "frmFavorites",
+                                              .clientWidth = 8265,
+                                              .clientHeight = 4245,
+                                              .title = "Favorites",
+                                              .website = "Quor Vanta Website",
+                                              .ownMenu = "Favorites",
+                                              .file = "File"},
                                      .corner = "Favorites",
                                      .rows = gstrFavorites,
+                                     .leastNumbers = 2,
                                      .lastColumn = kMostNumbers,
-                                     .deleteTest = 1,
-                                     .refusalUnchooses = true,
-                                     .rowAfterNo = 1,
+                                     .msgRowsAreFull = msgMaxFavoriteNumbers,
+                                     .msgTooFewPicked = msgMoreNumbersRequired,
+                                     .deletingUnchooses = true,
+                                     .labels = {.get = "frmFavorite.GetFavoriteUDTs",
+                                                .set = "frmFavorite.SetFavoriteUDTs",
+                                                .file = "frmFavorites.SetFavoritesToGrid",
+                                                .remove = "frmFavorites.DeleteGridRow"},
                                      .keypadLeft = 4125,
                                      .keypadTop = 135,
                                      .buttonTop = 3300,
@@ -28,20 +36,15 @@ const ListPage::Design& design() {
                                      .copyLeft = 6915,
                                      .grid = {120, 210, 0, 0}, // sized to its content
                                      .cancel = {135, 3300, 1530, 495},
-                                     .statBar = {0, 3930, 8265, 315},
-                                     .fileMenu = "File",
-                                     .listMenuName = "mnuFavorite",
-                                     .listMenu = "Favorites",
-                                     .website = "Quor Vanta Website"};
+                                     .statBar = {0, 3930, 8265, 315}};
     return it;
 }
 
 } // namespace
 
-frmFavorites::frmFavorites() : FormOf(design()) {
+frmFavorites::frmFavorites() : FormOf(design(), &Page::mnuFavorites) {
     setTabOrder({&grd1, &frKeys, &cmdCopy, &cmdReset, &cmdCancel});
     grd1.ToolTipText = "Double click to delete a row";
-    mnuFavorites.Enabled = false; // it would show the page that it stands on
 }
 
 void frmFavorites::SetFormProperties() {
@@ -57,12 +60,9 @@ void frmFavorites::SetFormProperties() {
     });
 }
 
-void frmFavorites::GetFavoriteUDTs() {
-    getRows("frmFavorite.GetFavoriteUDTs");
-}
-
-void frmFavorites::SetFavoriteUDTs() {
-    setRows("frmFavorite.SetFavoriteUDTs");
+void frmFavorites::cmdKey_Click(int Index) {
+    grd1.Row = 0;
+    SetFavoriteNumbers(Index);
 }
 
 void frmFavorites::SetFavoriteNumbers(int Index) {
@@ -73,25 +73,31 @@ void frmFavorites::SetFavoriteNumbers(int Index) {
             others = cmdKey(Index).FontBold ? picked - 1 : picked;
         });
         if (others < kMostNumbers)
-            step([&] { toggleKey("frmFavorites.SetFavoriteNumbers", Index); });
+            toggleKey(step, Index);
         else
             step([&] { msgOnlySixNumbers(); });
     });
 }
 
-bool frmFavorites::SetFavoritesToGrid() {
-    return fileRow("frmFavorites.SetFavoritesToGrid", kLeastNumbers, msgMaxFavoriteNumbers,
-                   msgMoreNumbersRequired);
-}
-
-void frmFavorites::DeleteGridRow(int row) {
-    removeRow("frmFavorites.DeleteGridRow", row);
-    grd1.Row = 0;
+void frmFavorites::cmdCopy_Click() {
+    if (!SetFavoritesToGrid())
+        return;
+    cmdReset_Click();
+    SetFavoriteUDTs();
 }
 
 void frmFavorites::grd1_DblClick() {
     leaveShiftMode();
-    ListPage::grd1_DblClick();
+    const int row = grd1.Row;
+    if (row == 0 || grd1.TextMatrix(row, 1).empty()) {
+        msgNoDeleteRow();
+        grd1.Row = 0;
+    } else if (msgDeleteGridRow()) {
+        DeleteGridRow(row);
+        SetFavoriteUDTs();
+    } else {
+        grd1.Row = 1;
+    }
 }
 
 } // namespace quorvanta

@@ -9,33 +9,33 @@ class frmFavorites : public toolkit::FormOf<frmFavorites, ListPage> {
 public:
     frmFavorites();
 
-    toolkit::Menu& mnuFavorite = mnuList;
+    toolkit::Menu& mnuFavorite = *ownMenu;
     toolkit::Menu mnuDeleteGridRow{mnuFavorite, "mnuDeleteGridRow", "Delete Grid Row",
-                                   [this] { grd1_DblClick(); }};
+                                   [this] { mnuDeleteGridRow_Click(); }};
     toolkit::Menu mnu111{mnuFavorite, "mnu111", "-"};
-    toolkit::Menu mnuReset{mnuFavorite, "mnuReset", "Reset", [this] { cmdReset_Click(); }};
+    toolkit::Menu mnuReset{mnuFavorite, "mnuReset", "Reset", [this] { mnuReset_Click(); }};
     toolkit::Menu mnu112{mnuFavorite, "mnu112", "-"};
     toolkit::Menu mnnuFileToGrid{mnuFavorite, "mnnuFileToGrid", "File to Grid",
-                                 [this] { cmdCopy_Click(); }};
+                                 [this] { mnnuFileToGrid_Click(); }};
     toolkit::Menu mnu895{mnuFavorite, "mnu895", "-"};
     toolkit::Menu mnuPrint{mnuFavorite, "mnuPrint", "Print Favorite Numbers",
-                           [this] { PrintFavoriteNumbers(); }};
+                           [this] { mnuPrint_Click(); }};
 
 protected:
-    void layOutGrid() override { SetFormProperties(); }
-    void storeRows() override { SetFavoriteUDTs(); }
-    void pickNumber(int number) override { SetFavoriteNumbers(number); }
-    bool fileNumbers() override { return SetFavoritesToGrid(); }
-    void deleteRow(int row) override { DeleteGridRow(row); }
+    void SetFormProperties() override;
+    void Form_Unload() override { SetFavoriteUDTs(); }
+    void cmdKey_Click(int Index) override;
+    void cmdCopy_Click() override;
     void grd1_DblClick() override;
 
 private:
-    void SetFormProperties();
-    void GetFavoriteUDTs();
-    void SetFavoriteUDTs();
+    void mnnuFileToGrid_Click() { cmdCopy_Click(); }
+    void mnuPrint_Click() { PrintFavoriteNumbers(); }
+
+    void GetFavoriteUDTs() { getRows(); }
+    void SetFavoriteUDTs() { setRows(); }
     void SetFavoriteNumbers(int Index);
-    bool SetFavoritesToGrid();
-    void DeleteGridRow(int row);
+    bool SetFavoritesToGrid() { return fileRow(); }
     void PrintFavoriteNumbers();
 };
 

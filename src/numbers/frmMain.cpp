@@ -15,6 +15,17 @@ namespace quorvanta {
 
 namespace {
 
+constexpr Page::Design kDesign{.name = "frmMain",
+                               .clientWidth = 6825,
+                               .clientHeight = 5265,
+                               .title = "6 From 49",
+                               .website = "Quor Vanta Website",
+                               .ownMenu = "&Generator",
+                               .product = "&Quor Vanta ",
+                               .help = "&Help",
+                               .contents = "&Contents",
+                               .about = "&About"};
+
 constexpr BoardDesign kBoard{.frame = {120, 270, 4560, 4590},
                              .labels = {.lefts = {75, 690, 1320, 1950, 2580, 3210, 3840},
                                         .firstTop = 150,
@@ -43,16 +54,15 @@ constexpr const char* kSystemKey = "system";
 
 } // namespace
 
-frmMain::frmMain() : FormOf(Kind::MDIChild, "frmMain", 6825, 5265) {
+frmMain::frmMain() : FormOf(kDesign, &Page::mnuMainForm) {
     MinButton = true;
     buildBoard(*this, fra2, 0, lbl1, kBoard);
     buildSystems();
     cmdCancel.TabIndex = kSystemCount;
     cmdJackpot.TabIndex = kSystemCount + 1;
     cmdCancel.Cancel = true;
-    cmdCancel.Click = [this] { Unload(); };
+    cmdCancel.Click = [this] { cmdCancel_Click(); };
     cmdJackpot.Click = [this] { cmdJackpot_Click(); };
-    mnuMainForm.Enabled = false; // it would show the page that it stands on
     mnuJackpot.Shortcut = "F5";
     opt1.Click = [this](int Index) { opt1_Click(Index); };
     mnuSystemPlay.Click = [this](int Index) { mnuSystemPlay_Click(Index); };
@@ -67,12 +77,6 @@ void frmMain::buildSystems() {
         option.TabIndex = kSystemCount - 1 - i;
         mnuSystemPlay.load(i, mnuSystem, system.caption);
     }
-}
-
-void frmMain::Form_Load() {
-    Caption = std::string(kProductTitle) + " - 6 From 49";
-    SetFormProperties();
-    CenterChild(*this);
 }
 
 void frmMain::SetFormProperties() {

@@ -2,12 +2,11 @@
 // numbers or a system play of up to 26. A play is only shown, as numbers turned red.
 #pragma once
 
-#include "frame/Navigation.h"
-#include "toolkit/Form.h"
+#include "frame/Page.h"
 
 namespace quorvanta {
 
-class frmMain : public toolkit::FormOf<frmMain> {
+class frmMain : public toolkit::FormOf<frmMain, Page> {
 public:
     frmMain();
 
@@ -20,38 +19,23 @@ public:
         *this, "cmdJackpot", "Generate Jackpot", {4860, 4425, 1815, 435}};
     toolkit::StatusBar statBar1{*this, "statBar1", {}, {0, 4950, 6825, 315}};
 
-    toolkit::Menu mnuFile{*this, "mnuFile", "&File"};
-    toolkit::Menu mnuMainForm{mnuFile, "mnuMainForm", "6 From 49"};
-    toolkit::Menu mnuBankroll{mnuFile, "mnuBankroll", "Bankroll", mnuBankroll_Click};
-    toolkit::Menu mnuCustomize{mnuFile, "mnuCustomize", "Customize 6", mnuCustomize_Click};
-    toolkit::Menu mnuFavorites{mnuFile, "mnuFavorites", "Favorites", mnuFavorites_Click};
-    toolkit::Menu mnuLine1{mnuFile, "mnuLine1", "-"};
-    toolkit::Menu mnuClose{mnuFile, "mnuClose", "&Close", [this] { Unload(); }};
-    toolkit::Menu mnuGenerator{*this, "mnuGenerator", "&Generator"};
+    toolkit::Menu& mnuGenerator = *ownMenu;
     toolkit::Menu mnuJackpot{mnuGenerator, "mnuJackpot", "Generate Jackpot",
-                             [this] { cmdJackpot_Click(); }};
+                             [this] { mnuJackpot_Click(); }};
     toolkit::Menu mnuSystem{mnuGenerator, "mnuSystem", "System 49"};
     toolkit::ControlArray<toolkit::Menu> mnuSystemPlay{*this, "mnuSystemPlay"};
-    toolkit::Menu mnuQuorvantaLite{*this, "mnuQuorvantaLite", "&Quor Vanta "};
-    toolkit::Menu mnuWebsite{mnuQuorvantaLite, "mnuWebsite", "Quor Vanta Website",
-                             [this] { mnuWebsite_Click(*this); }};
-    toolkit::Menu mnuHelp{*this, "mnuHelp", "&Help"};
-    toolkit::Menu mnuContents{mnuHelp, "mnuContents", "&Contents",
-                              [this] { mnuContents_Click(*this); }};
-    toolkit::Menu mnuLine2{mnuHelp, "mnuLine2", "-"};
-    toolkit::Menu mnuAbout{mnuHelp, "mnuAbout", "&About", mnuAbout_Click};
 
 protected:
-    void Form_Load() override;
+    void SetFormProperties() override;
 
 private:
     void buildSystems();
 
     void cmdJackpot_Click();
+    void mnuJackpot_Click() { cmdJackpot_Click(); }
     void opt1_Click(int Index);
     void mnuSystemPlay_Click(int Index);
 
-    void SetFormProperties();
     void SetSystemVariable(int index);
     void CheckMenuSystemPlay(int index);
 
