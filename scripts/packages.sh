@@ -1,7 +1,8 @@
 # Debian packages that the scripts need, and their installation. Sourced, not run.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6svg6 libicu-dev
-    libcups2-dev fonts-liberation)
+picture_packages=(librsvg2-bin pngquant)
+build_packages=(g++ cmake ninja-build qt6-base-dev libicu-dev libcups2-dev fonts-liberation
+    "${picture_packages[@]}")
 display_packages=(xvfb openbox imagemagick x11-utils xdotool fonts-dejavu-core)
 test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     printer-driver-cups-pdf poppler-utils desktop-file-utils appstream libglib2.0-bin
@@ -9,7 +10,7 @@ test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     "${display_packages[@]}")
 # The cross compiler, Wine to run what it makes, and what its windows need.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine
-    fonts-liberation locales "${display_packages[@]}")
+    fonts-liberation locales icoutils "${picture_packages[@]}" "${display_packages[@]}")
 check_packages=(clang-format)
 
 # Installs those of the named packages that are missing, through sudo where not root.

@@ -1,8 +1,55 @@
 #include "desktop/qt/Look.h"
 
 #include <QFontMetrics>
+#include <QIconEngine>
+#include <QPainter>
+#include <QResource>
 
 namespace desktop_qt {
+
+namespace {
+
+QString pictureFile(const std::string& name, int width) {
+    return QStringLiteral(":/pictures/%1-%2.png").arg(text(name)).arg(width);
+}
+
+// The width, in pixels, that the picture was drawn in: this one, else the next larger one, or for
+// scales beyond all the largest. 0 if there is no such picture.
+int drawnWidth(const std::string& name, int width) {
+    const auto drawn = [&](int w) { return QResource(pictureFile(name, w)).isValid(); };
+    int found = width;
+    while (found < 2 * width && !drawn(found))
+        ++found;
+    while (found > 0 && !drawn(found))
+        --found;
+    return found;
+}
+
+class PictureEngine final : public QIconEngine {
+public:
+    explicit PictureEngine(std::string name) : name_(std::move(name)) {}
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        if (last_.size() != size)
+            last_ = pixmapOf(name_, size, 1);
+        return last_;
+    }
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/,
+               QIcon::State /*state*/) override {
+        painter->drawPixmap(rect,
+                            pixmapOf(name_, rect.size(), painter->device()->devicePixelRatio()));
+    }
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        return {{16, 16}, {24, 24}, {32, 32}, {48, 48}, {64, 64}}; // what task bars and titles show
+    }
+    QIconEngine* clone() const override { return new PictureEngine(*this); }
+
+private:
+    std::string name_;
+    QPixmap last_; // a button is painted again and again, on one screen
+};
+
+} // namespace
 
 QColor colour(toolkit::Colour bgr) {
     return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
@@ -26,8 +73,21 @@ QFont fittingFont(const toolkit::Font& design, bool bold, const QString& text, i
     return fitting;
 }
 
-QIcon picture(const std::string& name) {
-    return QIcon(QStringLiteral(":/pictures/%1.svg").arg(text(name)));
+QPixmap pixmapOf(const std::string& name, QSize size, double scale) {
+    const QSize pixels = (QSizeF(size) * scale).toSize();
+    // Not as a pixmap's file: Qt would keep that in its cache, a large picture that is shown once.
+    QImage image(pictureFile(name, drawnWidth(name, pixels.width())));
+    if (image.isNull())
+        return {};
+    if (image.size() != pixels)
+        image = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPixmap pixmap = QPixmap::fromImage(std::move(image));
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+
+QIcon iconOf(const std::string& name) {
+    return QIcon(new PictureEngine(name));
 }
 
 QRect rectangle(const toolkit::Control& control) {

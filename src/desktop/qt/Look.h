@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QFont>
 #include <QIcon>
+#include <QPixmap>
 #include <QRect>
 #include <QString>
 
@@ -35,8 +36,13 @@ QFont font(const toolkit::Font& design, bool bold);
 // than `width` pixels.
 QFont fittingFont(const toolkit::Font& design, bool bold, const QString& text, int width);
 
-// A picture of the program, by its name. It is drawn anew for every size, so it stays sharp.
-QIcon picture(const std::string& name);
+// A picture of the program, by its name, for this many logical pixels on a screen of this scale:
+// the one that was drawn for it, else the next larger one made smaller. None of the name is a null
+// one.
+QPixmap pixmapOf(const std::string& name, QSize size, double scale);
+
+// The same for a button or a window, which asks for its own screen's scale when it is painted.
+QIcon iconOf(const std::string& name);
 
 QRect rectangle(const toolkit::Control& control);
 

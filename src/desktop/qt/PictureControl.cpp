@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPixmapCache>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
@@ -31,17 +30,47 @@ QPixmap enlarged(const Bitmap& bitmap, QSize size, double ratio) {
     return pixmap;
 }
 
+// Shows a drawing in the pixels of the screen that it is on, another one's when its window moves.
+class PictureWidget : public QLabel {
+public:
+    using QLabel::QLabel;
+
+    void setDrawing(const toolkit::Drawing& drawing) {
+        drawing_ = drawing;
+        draw();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!pixmap().isNull() && pixmap().devicePixelRatio() != devicePixelRatioF())
+            draw();
+        QLabel::paintEvent(event);
+    }
+
+private:
+    void draw() {
+        const QSize size = contentsRect().size();
+        const double ratio = devicePixelRatioF();
+        if (!drawing_.bitmap())
+            return setPixmap(pixmapOf(drawing_.name(), size, ratio));
+        QPixmap& pixmap = enlarged_[drawing_.bitmap()];
+        if (pixmap.isNull() || pixmap.devicePixelRatio() != ratio)
+            pixmap = enlarged(*drawing_.bitmap(), size, ratio);
+        setPixmap(pixmap);
+    }
+
+    toolkit::Drawing drawing_;
+    std::map<std::shared_ptr<const Bitmap>, QPixmap> enlarged_; // an animation comes round again
+};
+
 class PicturePeer final : public ControlPeer {
 public:
-    PicturePeer(toolkit::PictureControl& control, QLabel* widget)
-        : ControlPeer(control, widget), picture_(control), label_(widget) {
+    PicturePeer(toolkit::PictureControl& control, PictureWidget* widget)
+        : ControlPeer(control, widget), picture_(control), widget_(widget) {
         if (control.spokenAs.empty())
             widget->setAccessibleName(text(control.ToolTipText));
         showPicture();
     }
-    // The icon engine keeps what it has drawn in Qt's cache, where a large picture that is shown
-    // once would stay for long.
-    ~PicturePeer() override { QPixmapCache::clear(); }
 
     void changed(toolkit::Prop which) override {
         if (which != toolkit::Prop::Picture)
@@ -52,27 +81,17 @@ public:
 
 private:
     void showPicture() {
-        if (!picture_.Visible)
-            return; // it only stores a picture
-        const toolkit::Drawing& drawing = picture_.Picture;
-        const QSize size = label_->contentsRect().size();
-        const double ratio = label_->devicePixelRatioF();
-        if (!drawing.bitmap())
-            return label_->setPixmap(picture(drawing.name()).pixmap(size, ratio));
-        QPixmap& pixmap = enlarged_[drawing.bitmap()];
-        if (pixmap.isNull())
-            pixmap = enlarged(*drawing.bitmap(), size, ratio);
-        label_->setPixmap(pixmap);
+        if (picture_.Visible) // else it only stores a picture
+            widget_->setDrawing(picture_.Picture);
     }
 
     toolkit::PictureControl& picture_;
-    QLabel* label_;
-    std::map<std::shared_ptr<const Bitmap>, QPixmap> enlarged_; // an animation comes round again
+    PictureWidget* widget_;
 };
 
-class BoxWidget final : public QLabel {
+class BoxWidget final : public PictureWidget {
 public:
-    explicit BoxWidget(QWidget* parent) : QLabel(parent) {
+    explicit BoxWidget(QWidget* parent) : PictureWidget(parent) {
         setFrameStyle(QFrame::Panel | QFrame::Sunken);
         setLineWidth(2);
         setFocusPolicy(Qt::StrongFocus);
@@ -84,7 +103,7 @@ protected:
             doubleClick();
     }
     void paintEvent(QPaintEvent* event) override {
-        QLabel::paintEvent(event);
+        PictureWidget::paintEvent(event);
         if (!hasFocus())
             return;
         QStyleOptionFocusRect option;
@@ -102,7 +121,7 @@ private:
 } // namespace
 
 std::unique_ptr<ControlPeer> makeImage(toolkit::Image& image, QWidget* parent) {
-    return std::make_unique<PicturePeer>(image, new QLabel(parent));
+    return std::make_unique<PicturePeer>(image, new PictureWidget(parent));
 }
 
 std::unique_ptr<ControlPeer> makePictureBox(toolkit::PictureBox& box, QWidget* parent) {

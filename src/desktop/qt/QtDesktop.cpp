@@ -84,9 +84,9 @@ QApplication& QtDesktop::application() {
     application_ = std::make_unique<QApplication>(argc_, argv_.data());
     // The texts are English whatever the locale is, and a board reads 1, 2, 3 from the left.
     QApplication::setLayoutDirection(Qt::LeftToRight);
-    QApplication::setWindowIcon(picture("quorvanta")); // one for all windows: it is drawn once
-    application_->setQuitOnLastWindowClosed(false);    // the list of loaded forms decides
-    QApplication::setCursorFlashTime(0);               // a blinking caret is work while idle
+    QApplication::setWindowIcon(iconOf("quorvanta")); // one for all windows
+    application_->setQuitOnLastWindowClosed(false);   // the list of loaded forms decides
+    QApplication::setCursorFlashTime(0);              // a blinking caret is work while idle
     application_->installEventFilter(this);
     connect(application_.get(), &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (Control* const control = controlOf(now)) {

@@ -23,7 +23,7 @@ public:
                 continue;
             }
             const auto image = static_cast<std::size_t>(button.Image - 1);
-            QAction* const action = widget->addAction(picture(bar.Images->ListImages.at(image)),
+            QAction* const action = widget->addAction(iconOf(bar.Images->ListImages.at(image)),
                                                       text(button.ToolTipText));
             action->setObjectName(text(button.Key));
             widget->widgetForAction(action)->setFixedSize(kButtonSize);
