@@ -6,13 +6,13 @@ import sys
 import textwrap
 import time
 
-from desk import Atspi, Program, Road, click, keys, until, xdotool
+from desk import Program, Road, click, keys, until, xdotool
 
 DOCS = sys.argv[1]
-TEXT = """# A tour of Quorvanta
+TEXT = ["""# A tour of Quorvanta
 
 `scripts/tour` makes these pictures and this page anew.
-"""
+"""]
 DARK = """[Colors:Window]
 BackgroundNormal=42,46,50
 ForegroundNormal=252,252,252
@@ -30,13 +30,12 @@ ForegroundNormal=252,252,252
 
 def stop(name, title, text, window):
     """A stop of the tour: what is on the screen where the window is, and a paragraph on it."""
-    global TEXT
-    TEXT += f"\n## {title}\n\n{textwrap.fill(text, 100)}\n\n![{title}](tour/{name}.png)\n"
+    TEXT.append(f"\n## {title}\n\n{textwrap.fill(text, 100)}\n\n![{title}](tour/{name}.png)\n")
     xdotool("mousemove", 0, 0)
     time.sleep(0.7)  # the last paint, and the end of a tooltip
-    box = window.get_extents(Atspi.CoordType.SCREEN)
+    left, top, width, height = window.box
     subprocess.run(["import", "-window", "root", "-crop",
-                    f"{box.width}x{box.height}+{box.x}+{box.y}", "+repage", "-strip", "-dither",
+                    f"{width}x{height}+{left}+{top}", "+repage", "-strip", "-dither",
                     "None", "-colors", "128", "-define", "png:compression-level=9",
                     f"PNG8:{DOCS}/tour/{name}.png"], check=True)
 
@@ -51,9 +50,8 @@ Road.write_data(
     "[Win/Loss]", "Win:1250.5", "Loss:980", "Bal:270.5", "Large:500", "Date:7/25/2005")
 
 program = Program(leave_splash=False)
-splash = until(lambda: program.windows()[0], "the splash")
 stop("splash", "The start", "The splash stands for three and a half seconds; a key leaves it at "
-     "once.", splash)
+     "once.", program.splash())
 keys("space")
 frame = program.frame()
 
@@ -89,7 +87,7 @@ click(page.cell(2))
 stop("favorites", "Favorite rows", "The page \"Favorites\" keeps rows of two to six numbers and "
      "prints them. Ctrl turns shift mode on: the two rows that are clicked next change places.",
      frame)
-TEXT += "\n![The rows of a favorites page, printed](pictures/print-out.png)\n"
+TEXT.append("\n![The rows of a favorites page, printed](pictures/print-out.png)\n")
 keys("Escape")
 
 program.tool("Bankroll")
@@ -98,14 +96,15 @@ stop("bankroll", "The account", "The page \"Bankroll\" keeps the totals of bets 
      "largest win and the balance, which is red where more was lost than won.", frame)
 keys("Escape", "alt+h", "a")
 until(lambda: len(program.windows()) == 2, "the About box")
-stop("about", "About", "The About box shows the version; a double click on its moving picture opens "
-     "the maker's site.", frame)
+stop("about", "About", "The About box shows the version; a double click on its moving picture "
+     "opens the maker's site.", frame)
 keys("alt+o")
 until(lambda: len(program.windows()) == 1, "its end")
 keys("alt+h", "c")
 guide = until(lambda: next(w for w in program.windows() if w != frame), "the guide")
 stop("guide", "The user's guide", "*Contents* in the Help menu opens the guide.", guide)
-program.kill(15)
+program.end_session()
+program.process.wait(20)
 
 with open(os.environ["XDG_CONFIG_HOME"] + "/kdeglobals", "w", encoding="ascii") as file:
     file.write(DARK)
@@ -116,7 +115,7 @@ click(page.cell(1))
 page.press("Jackpot Generator")
 stop("dark", "In a dark theme", "All but the boards follows the colours of the desktop.",
      program.frame())
-program.kill(15)
+program.end_session()
 
 with open(DOCS + "/tour.md", "w", encoding="utf-8") as file:
-    file.write(TEXT)
+    file.write("".join(TEXT))

@@ -2,7 +2,7 @@
 
 import time
 
-from desk import BLUE, RED, Atspi, Road, click, has, keys, shows, until, xdotool
+from desk import BLUE, RED, Road, click, keys, shows, until, xdotool
 
 BOXES = ["Date Started", "Total Amount of Bets", "Winnings", "Largest Win"]
 
@@ -20,13 +20,14 @@ class Bankroll(Road):
                 ("de_DE", "25.07.2005", ("1250,5", "-749,5"),
                  ["1.250,50", "2.000,00", "500,00", "270,50", "250,50", "-749,50"])):
             won, bets, largest, *balances = shown
-            self.write_data("[Win/Loss]", "Win:" + typed[0], "Loss:980", "Large:500", "Date:" + date)
+            self.write_data("[Win/Loss]", "Win:" + typed[0], "Loss:980", "Large:500",
+                            "Date:" + date)
             program, page = self.open(locale)
             label = page["label", balances[0]]
             click(page["text", BOXES[1]])
             for amount, balance in (("1000", balances[1]), ("2000", balances[2])):
                 keys(*amount, "Tab")
-                until(lambda: label.get_name() == balance, balance)
+                until(lambda: label.name == balance, balance)
                 keys("shift+Tab")
             click(page["text", BOXES[3]])
             keys(*"77")  # not left, so not kept
@@ -34,7 +35,7 @@ class Bankroll(Road):
             self.assertEqual(self.data()[29:34], ["Win:" + typed[0], "Loss:2000", "Bal:" + typed[1],
                                                   "Large:500", "Date:" + date])
             program, page = self.open(locale)
-            self.assertEqual([Atspi.Text.get_text(page["text", name], 0, -1) for name in BOXES],
+            self.assertEqual([page["text", name].text for name in BOXES],
                              [date, bets, won, largest])
             self.assertTrue(shows(RED, [page["label", balances[2]]])[0])
             program.end()
@@ -44,11 +45,11 @@ class Bankroll(Road):
         program, page = self.open()
 
         def boxes():
-            return [Atspi.Text.get_text(page["text", name], 0, -1) for name in BOXES]
+            return [page["text", name].text for name in BOXES]
 
         def balance(amount, colour):
             label = page["label", "270,50"]
-            return label.get_name() == amount and shows(colour, [label])[0]
+            return label.name == amount and shows(colour, [label])[0]
 
         self.assertEqual(page.lines, [
             "panel: Bankroll", "  label: 270,50, Date Started", "  text: Date Started",
@@ -65,7 +66,7 @@ class Bankroll(Road):
         until(lambda: boxes()[1] == "2.000,00" and balance("-749,50", RED), "a red balance")
         keys(*"abc", "Tab")
         self.assertEqual(program.answer("OK"), "Please enter only a Numeric value")
-        until(lambda: boxes()[2] == "" and has(page["text", "Winnings"], "FOCUSED"), "an empty box")
+        until(lambda: boxes()[2] == "" and page["text", "Winnings"].has("FOCUSED"), "an empty box")
         click(page["text", "Date Started"])
         keys("x", "Tab")
         self.assertEqual(program.answer("OK"), "Please enter a date")
@@ -88,7 +89,7 @@ class Bankroll(Road):
             keys(*"abc")
             way()
             program.answer("OK")
-            until(lambda: has(wins, "FOCUSED") and not Atspi.Text.get_text(wins, 0, -1), "the box")
+            until(lambda: wins.has("FOCUSED") and not wins.text, "the box")
             program.page("Bankroll")  # it has stayed in front
         keys(*"abc", "Escape")
         program.page("6 From 49")

@@ -20,7 +20,7 @@ class Customize(Road):
         program, page = self.open()
         self.assertEqual(page.lines, [
             "panel: Keypad", "  push button: " + NUMBERS, "table: Customized",
-            "push button: Reset, File to Grid, Close", "status bar:", "  label: Status",
+            "push button: Reset, File to Grid, Close", "status bar:",
             "push button: All Numbers, Jackpot Generator", "panel: Board", "  label: " + NUMBERS])
         self.assertEqual(program.menus()[:3], [
             "File: 6 From 49, Bankroll, Customize 6 (grey), Favorites, -, Close",
@@ -29,9 +29,8 @@ class Customize(Road):
         self.check_order(page, ("push button", [*ALL, "Reset", "All Numbers", "File to Grid"]),
                          ("table", ["Customized"]), ("push button", ["Close", "Jackpot Generator"]))
         grid = page.grid
-        self.assertEqual((grid.get_n_rows(), grid.get_n_columns()), (10, 49))
-        self.assertEqual([grid.get_column_header(48).get_name(), grid.get_row_header(9).get_name()],
-                         ["# 49", "10."])
+        self.assertEqual((grid.size(), grid.cell(0, 49).name, grid.cell(10, 0).name),
+                         ((10, 49), "# 49", "10."))
 
         page.press(41, 3, 48, 7, 33, 12, 25, 8, 8)
         until(lambda: page.picked() == PICKS, "the picks")
@@ -44,7 +43,7 @@ class Customize(Road):
         page.press("Jackpot Generator")
         until(lambda: len(page.drawn()) == 6, "a draw from the row")
         self.assertLess(set(page.drawn()), set(page.pool()))
-        click(page.grid.get_column_header(2))  # a click on the grid, but no other row
+        click(page.cell(0, 3))  # a click on the grid, but no other row
         until(lambda: page.drawn() == [], "a board without marks")
         self.assertEqual(page.chosen(), 1)
         program.end()
@@ -61,7 +60,7 @@ class Customize(Road):
         program, page = self.open()
 
         def first():
-            return "".join(page.cell(r).get_name() for r in range(1, 11))
+            return "".join(page.cell(r).name for r in range(1, 11))
 
         for answer, left in (("No", "123"), ("Yes", "23")):
             click(page.cell(1), times=2)
@@ -70,11 +69,11 @@ class Customize(Road):
             until(lambda: (first(), page.chosen()) == (left, 0), answer)
         click(page.cell(2))
         keys("ctrl")
-        until(lambda: page.status() == "Shift mode", "shift mode")
+        until(page.shift_mode, "shift mode")
         click(page.cell(5))
         self.assertIn("invalid", program.answer("OK"))
-        click(program.part("menu bar").get_child_at_index(0))
+        program.open_menu("File")
         keys("Escape")
-        self.assertEqual(page.status(), "Shift mode")  # neither the box nor the menu has ended it
+        self.assertTrue(page.shift_mode())  # neither the box nor the menu has ended it
         page.press("Reset")
-        until(lambda: page.status() == "Status", "the end of shift mode")
+        until(lambda: not page.shift_mode(), "the end of shift mode")

@@ -1,6 +1,6 @@
 """The page "Favorites", worked by the keyboard alone, by a user of another code page."""
 
-from desk import NUMBERS, Road, has, keys, until
+from desk import NUMBERS, Road, keys, until
 
 
 class Favorites(Road):
@@ -11,24 +11,24 @@ class Favorites(Road):
         page = program.page("Favorites")
         self.assertEqual(page.lines, [
             "panel: Keypad", "  push button: " + NUMBERS, "table: Favorites",
-            "push button: Reset, File to Grid, Close", "status bar:", "  label: Status"])
+            "push button: Reset, File to Grid, Close", "status bar:"])
         self.assertEqual(program.menus(), [
             "File: 6 From 49, Bankroll, Customize 6, Favorites (grey), -, Close",
             "Favorites: Delete Grid Row, -, Reset, -, File to Grid, -, Print Favorite Numbers",
             "Quor Vanta: Quor Vanta Website", "Help: Contents, -, About"])
         self.check_order(page, ("table", ["Favorites"]),
                          ("push button", [*range(1, 50), "File to Grid", "Reset", "Close"]))
-        self.assertEqual([page.row(1, 6), page.cell(2).get_name()], [["5", "9", *[""] * 4], "ж"])
+        self.assertEqual([page.row(1, 6), page.cell(2).name], [["5", "9", *[""] * 4], "ж"])
         keys("space", "Tab", "Tab", "space", "Tab", "space")
         until(lambda: page.picked() == [1, 3, 4], "the picks")
         keys("shift+Tab", "space", "alt+f")  # 3 is taken back
         until(lambda: page.row(3, 3) == ["1", "4", ""], "the row")
         keys("alt+r", "shift+Tab", "shift+Tab")  # Reset, then back over File to Grid to the keys
-        until(lambda: has(page["push button", "49"], "FOCUSED"), "the focus on 49")
+        until(lambda: page["push button", "49"].has("FOCUSED"), "the focus on 49")
         keys(*["shift+Tab"] * 49)
-        until(lambda: has(page.grid, "FOCUSED"), "the focus on the grid")
+        until(lambda: page.grid.has("FOCUSED"), "the focus on the grid")
         keys("ctrl", "Down", "Return", "Down", "Down")
-        until(lambda: (page.chosen(), page.status()) == (3, "Shift mode"), "shift mode")
+        until(lambda: (page.chosen(), page.shift_mode()) == (3, True), "shift mode")
         keys("Return")
         until(lambda: (page.row(1, 2), page.row(3, 2)) == (["1", "4"], ["5", "9"]), "the swap")
         keys("Up", "Up", "alt", "Right", "Down", "Return")  # Delete Grid Row

@@ -3,7 +3,7 @@
 import pathlib
 import re
 
-from desk import APP, Atspi, Road, click, has, keys, until, xdotool
+from desk import APP, Road, click, keys, until, xdotool
 
 GUIDE, HELP = pathlib.Path(APP + "quorvantalite.hlp"), "Quor Vanta  - Help"
 FILLER = "<p>word</p>" * 200
@@ -30,24 +30,20 @@ class Help(Road):
         def view():
             return program.dialog(HELP)["label", "Help page"]
 
-        def text():
-            return Atspi.Text.get_text(view(), 0, -1)
-
         def at_top(line):
-            box = view().get_extents(Atspi.CoordType.SCREEN)
-            place = (box.x + 20, box.y + 15, Atspi.CoordType.SCREEN)
-            until(lambda: text()[Atspi.Text.get_offset_at_point(view(), *place):].startswith(line))
+            left, top = view().box[:2]
+            until(lambda: view().text_from(left + 20, top + 15).startswith(line), line)
 
         def found():
-            marked = Atspi.Text.get_selection(view(), 0)
-            return text()[marked.start_offset - 2:marked.end_offset]
+            start, end = view().marked()
+            return view().text[start - 2:end]
 
         choose_help()
-        until(lambda: str(GUIDE) in text(), "the report")
+        until(lambda: str(GUIDE) in view().text, "the report")
         self.assertNotIn(("tree", "Contents"), program.dialog(HELP).nodes)
         GUIDE.write_text(PAGE, encoding="utf-8")
         choose_help()
-        until(lambda: text().startswith("Before"), "the page")
+        until(lambda: view().text.startswith("Before"), "the page")
         self.assertIn("    table cell: Before, \u00C4, Deep, A", program.dialog(HELP).lines)
         keys("Down", "Down")
         at_top("Deep")
@@ -63,6 +59,6 @@ class Help(Road):
         keys(*"room", "Return")
         until(lambda: ("label", "Not found") in program.dialog(HELP).nodes, "no word")
         keys("Escape")
-        until(lambda: has(view(), "FOCUSED"), "the focus on the page")
+        until(lambda: view().has("FOCUSED"), "the focus on the page")
         keys("Escape")
         program.frame()

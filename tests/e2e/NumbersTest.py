@@ -1,6 +1,6 @@
 """The page "6 From 49", from the first start to the next one."""
 
-from desk import NUMBERS, Road, click, has, keys, until
+from desk import NUMBERS, Road, click, keys, until
 
 SYSTEMS = [6, 7, 8, 9, 10, 11, 12, 13, 22, 26]
 FRAME_MENUS = ["File: 6 from 49, Bankroll, Customize 6, Favorites, -, Exit",
@@ -17,7 +17,7 @@ class Numbers(Road):
             "panel: System -- 49",
             "  radio button: 6 From 49 (checked), "
             + ", ".join(f"{n} From 49" for n in SYSTEMS[1:]),
-            "push button: Close, Generate Jackpot", "status bar:", "  label: Status",
+            "push button: Close, Generate Jackpot", "status bar:",
             "panel: Board", "  label: " + NUMBERS])
         self.assertEqual(program.menus(), [
             "File: 6 From 49 (grey), Bankroll, Customize 6, Favorites, -, Close",
@@ -49,4 +49,4 @@ class Numbers(Road):
         program = self.run_program()
         keys("alt+f", "Return")
         page = program.page("6 From 49")
-        self.assertTrue(has(page["radio button", "26 From 49"], "CHECKED"))
+        self.assertTrue(page["radio button", "26 From 49"].has("CHECKED"))

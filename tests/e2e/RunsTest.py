@@ -1,23 +1,24 @@
 """How a run begins and ends: the splash, a second instance, a kill, failing reads and saves."""
 
 import os
+import pathlib
 import subprocess
 import time
 
-from desk import APP, DATA, Page, Road, keys, until
+from desk import APP, DATA, PLACE, Page, Road, keys
 
 
 class Runs(Road):
     def test_the_splash_stays_and_a_second_instance_changes_nothing(self):
         begin = time.monotonic()
         program = self.run_program(leave_splash=False)
-        splash = until(lambda: program.windows()[0], "the splash")
-        self.assertEqual(splash.get_role_name(), "dialog")
+        splash = program.splash()
+        self.assertEqual(splash.role, "dialog")
         self.assertIn("label: Version 3.5, Quor Vanta , ", Page(splash).lines[-1])
         program.frame()
         self.assertGreaterEqual(time.monotonic() - begin, 3.5)
         log = os.stat(APP + "DebugLog.TXT")
-        self.assertEqual(subprocess.run([APP + "quorvanta"], timeout=5).returncode, 0)
+        self.assertEqual(subprocess.run([APP + "quorvanta"], timeout=5, check=False).returncode, 0)
         self.assertEqual(os.stat(APP + "DebugLog.TXT"), log)
         self.assertFalse(os.path.exists(DATA))
         program.kill()
@@ -39,10 +40,32 @@ class Runs(Road):
         program.frame()
         os.remove(DATA)
         os.mkdir(DATA)
-        program.process.terminate()
+        program.end_session()
         self.assertEqual(program.box().lines[-1][-20:], "Abort, Retry, Ignore")
         time.sleep(1)
         os.rmdir(DATA)
         keys("r")  # Retry
         self.assertEqual(program.process.wait(10), 0)
         self.assertEqual(self.data()[29:31], ["Win:0", "Loss:5"])
+
+    def test_each_run_saves_what_the_one_before_saved_and_leaves_no_lock_and_no_file(self):
+        self.write_data("[Favorites]", "10.5;9;14;22;36;44;", "[Win/Loss]", "Win:1250.5")
+        place, saved = APP.rstrip("/"), None  # the program's directory, which is what it locks
+
+        def held():
+            return subprocess.run(["flock", "-n", place, "true"], check=False).returncode == 1
+
+        before = {*os.listdir(APP), *os.listdir(PLACE + "/tmp")}
+        for _ in range(4):
+            program = self.run_program(locale="C")
+            opened = map(os.readlink, pathlib.Path(f"/proc/{program.process.pid}/fd").iterdir())
+            self.assertEqual([file for file in opened if file.startswith(PLACE)], [place])
+            self.assertTrue(held())
+            program.end_session()
+            self.assertEqual(program.process.wait(10), 0)
+            self.assertFalse(held())
+            saved = saved or self.data()[2:]
+            self.assertEqual(self.data()[2:], saved)
+        self.assertLess({"10.5;9;14;22;36;44;", "Win:1250.5"}, set(saved))
+        self.assertLessEqual({*os.listdir(APP), *os.listdir(PLACE + "/tmp")} - before, {
+            "DebugLog.TXT", "Quorvanta.bak", "Quorvanta.txt", "Quorvanta.txt.spare"})

@@ -1,24 +1,21 @@
-"""Drives the installed program from outside: reads its windows over the accessibility bus, as a
-screen reader does, and works them with the mouse and the keys of xdotool."""
+"""The words of the roads: a program, its pages, what is on them, and the mouse and the keys of
+xdotool to work them. What a window holds is read by the module of the system."""
 
+import importlib
 import os
-import signal
 import subprocess
 import time
 import unittest
 
-import gi
+SYSTEM = os.environ.get("QUORVANTA_SYSTEM", "linux")
+system = importlib.import_module(SYSTEM)
 
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
-
-APP = os.environ["QUORVANTA_PLACE"] + "/app/"
+PLACE = os.environ["QUORVANTA_PLACE"]
+APP = PLACE + "/app/"
 DATA = APP + "Quorvanta.txt"
 RED, BLUE = (255, 0, 0), (0, 0, 255)
 FRAME = "Zephyrwick - Quor Vanta "
 NUMBERS = ", ".join(map(str, range(1, 50)))
-Atspi.init()
-Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)  # nothing here runs the loop that renews it
 
 
 def until(holds, what="", seconds=15):
@@ -27,7 +24,7 @@ def until(holds, what="", seconds=15):
     while True:
         try:
             found = holds()
-        except (GLib.Error, IndexError, StopIteration):
+        except (*system.GONE, IndexError, StopIteration):
             found = None
         if found:
             return found
@@ -35,8 +32,14 @@ def until(holds, what="", seconds=15):
         time.sleep(0.03)
 
 
+def output(*command, check=True):
+    """What a command prints."""
+    return subprocess.run([*map(str, command)], stdout=subprocess.PIPE, check=check).stdout
+
+
 def xdotool(*arguments):
-    return subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True).stdout
+    return subprocess.run(["xdotool", *map(str, arguments)], capture_output=True, text=True,
+                          check=False).stdout
 
 
 def keys(*names):
@@ -49,32 +52,28 @@ def in_front(title):
 
 
 def click(node, times=1, button=1):
-    box = node.get_extents(Atspi.CoordType.SCREEN)
-    xdotool("mousemove", box.x + box.width // 2, box.y + box.height // 2,
+    x, y, width, height = node.box
+    xdotool("mousemove", x + width // 2, y + height // 2,
             "click", "--repeat", times, "--delay", 60, button)
 
 
-def has(node, state):
-    return node.get_state_set().contains(getattr(Atspi.StateType, state))
-
-
-def children(node, every=False):
-    """Those on the screen, or every one."""
-    nodes = (node.get_child_at_index(i) for i in range(node.get_child_count()))
-    return [child for child in nodes if child and (every or has(child, "SHOWING"))]
+def picture(node):
+    """Its pixels on the screen, three bytes each."""
+    x, y, width, height = node.box
+    return output("import", "-window", "root", "-depth", 8, "-crop", f"{width}x{height}+{x}+{y}",
+                  "rgb:-")
 
 
 def shows(colour, nodes):
     """Whether the colour, or one near it as thin strokes have it, is in each of the widgets."""
-    screen = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"],
-                            capture_output=True, check=True).stdout
-    width = int(xdotool("getdisplaygeometry").split()[0])
+    screen = output("import", "-window", "root", "-depth", 8, "rgb:-")
+    across = int(xdotool("getdisplaygeometry").split()[0])
 
-    def inside(box):
-        starts = (3 * (y * width + box.x) for y in range(box.y, box.y + box.height))
+    def inside(x, y, width, height):
+        starts = (3 * (line * across + x) for line in range(y, y + height))
         return any(max(abs(screen[at + i] - colour[i]) for i in range(3)) < 96
-                   for start in starts for at in range(start, start + 3 * box.width, 3))
-    return [inside(node.get_extents(Atspi.CoordType.SCREEN)) for node in nodes]
+                   for start in starts for at in range(start, start + 3 * width, 3))
+    return [inside(*node.box) for node in nodes]
 
 
 class Page:
@@ -85,14 +84,14 @@ class Page:
         self._read(window, "")
 
     def _read(self, node, indent):
-        for child in children(node):
-            role, name = child.get_role_name(), child.get_name()
+        for child in node.children():
+            role, name = child.role, child.name
             if role == "filler":
                 self._read(child, indent)
                 continue
             self.nodes.setdefault((role, name), child)
             states = "".join(f" ({mark})" for mark, shown in (
-                ("checked", has(child, "CHECKED")), ("grey", not has(child, "ENABLED"))) if shown)
+                ("checked", child.has("CHECKED")), ("grey", not child.has("ENABLED"))) if shown)
             head = indent + role + ":"
             if self.lines and self.lines[-1].startswith(head):
                 self.lines[-1] += "," if name else ""
@@ -101,6 +100,8 @@ class Page:
             self.lines[-1] += f" {name}{states}" if name else ""
             if role == "table":
                 self.grid = child
+            elif role == "status bar":
+                self.status = child
             else:
                 self._read(child, indent + "  ")
 
@@ -116,95 +117,87 @@ class Page:
 
     def drawn(self):
         """The drawn numbers, which are those spoken so and painted red."""
-        numbers = self.numbers("label", lambda node, n: node.get_name() == f"{n}, drawn")
+        numbers = self.numbers("label", lambda node, n: node.name == f"{n}, drawn")
         red = shows(RED, [self["label", str(n)] for n in range(1, 50)])
         assert numbers == [n for n in range(1, 50) if red[n - 1]], f"drawn are {numbers}"
         return numbers
 
     def picked(self):
-        return self.numbers("push button", lambda node, n: node.get_name() == f"{n}, picked")
+        return self.numbers("push button", lambda node, n: node.name == f"{n}, picked")
 
     def pool(self):
-        return self.numbers("label", lambda node, n: has(node, "ENABLED"))
+        return self.numbers("label", lambda node, n: node.has("ENABLED"))
 
     def cell(self, row, column=1):
-        return self.grid.get_accessible_at(row - 1, column - 1)
+        return self.grid.cell(row, column)
 
     def row(self, row, columns=7):
-        return [self.cell(row, c).get_name() for c in range(1, columns + 1)]
+        return [self.cell(row, c).name for c in range(1, columns + 1)]
 
     def chosen(self):
         """The chosen row of the grid, 0 for none."""
-        return next((r for r in range(1, 11) if has(self.cell(r), "SELECTED")), 0)
+        return next((r for r in range(1, 11) if self.cell(r).has("SELECTED")), 0)
 
-    def status(self):
-        bar = next(node for (role, _), node in self.nodes.items() if role == "status bar")
-        return children(bar)[0].get_name()
+    def shift_mode(self):
+        return self.status.children()[0].name == "Shift mode"
 
 
 class Program:
     """One run. The splash is left by a key, unless it is to be waited for."""
 
     def __init__(self, locale="en_US.UTF-8", leave_splash=True, **environment):
-        self.process = subprocess.Popen(
-            [APP + "quorvanta"], env=dict(os.environ, LC_ALL=locale, **environment))
+        self.process = system.start(APP, dict(os.environ, LC_ALL=locale, **environment))
         if leave_splash:
             until(lambda: in_front("quorvanta"), "the splash")
             keys("space")
             self.frame()
 
     def windows(self):
-        """Of this run; those of an earlier one can linger on the bus."""
-        return [window for application in children(Atspi.get_desktop(0), every=True)
-                if application.get_process_id() == self.process.pid
-                for window in children(application)]
+        return system.windows(self.process)
+
+    def splash(self):
+        return until(lambda: self.windows()[0], "the splash")
 
     def frame(self):
         return until(lambda: in_front(FRAME) and next(w for w in self.windows()
-                                                      if w.get_name() == FRAME), "the frame")
-
-    def part(self, role):
-        return next(node for node in children(self.frame()) if node.get_role_name() == role)
+                                                      if w.name == FRAME), "the frame")
 
     def tool(self, tooltip):
-        click(next(b for b in children(self.part("tool bar")) if b.get_name() == tooltip))
+        click(next(button for button in system.part(self.frame(), "tool bar").children()
+                   if button.name == tooltip))
 
     def pages(self):
-        return children(self.part("layered pane"))
+        return system.pages(self.frame())
 
     def dialog(self, title):
         """The window in front, once it has the title."""
         return Page(until(lambda: next(w for w in self.windows()
-                                       if w.get_name() == title and has(w, "ACTIVE")), title))
+                                       if w.name == title and w.has("ACTIVE")), title))
 
     def page(self, title):
         """The page in front, once it has the title."""
         title = "Quor Vanta  - " + title
-        return Page(until(lambda: next(page for page in self.pages() if page.get_name() == title
-                                       and has(page, "FOCUSED")), title))
+        return Page(until(lambda: next(page for page in self.pages() if page.name == title
+                                       and page.has("FOCUSED")), title))
 
     def menus(self):
         """The menu bar: each menu with its entries, a separator as a dash."""
-        def entry(node):
-            role = node.get_role_name()
-            if role == "separator":
-                return "-"
-            inner = [entry(e) for popup in children(node, True) for e in children(popup, True)]
-            return (node.get_name() + (" (checked)" if has(node, "CHECKED") else "")
-                    + ("" if has(node, "ENABLED") else " (grey)")
-                    + (": " + ", ".join(inner) if inner else ""))
-        return [entry(menu) for menu in children(self.part("menu bar"))]
+        return [entries for _, entries in system.menus(self.frame())]
+
+    def open_menu(self, name):
+        click(next(menu for menu, entries in system.menus(self.frame())
+                   if entries.startswith(name + ":")))
 
     def box(self):
         """The message box in front, as a page."""
-        return Page(until(lambda: next(w for w in self.windows() if w.get_role_name() == "alert"
-                                       and has(w, "ACTIVE")), "a message box"))
+        return Page(until(lambda: next(w for w in self.windows() if w.role == "alert"
+                                       and w.has("ACTIVE")), "a message box"))
 
     def answer(self, button):
         """Answers the message box by a click, and gives its text."""
         box = self.box()
         box.press(button)
-        until(lambda: not any(w.get_role_name() == "alert" for w in self.windows())
+        until(lambda: box.window not in self.windows()
               or self.process.poll() is not None, "the end of the box")
         return next(name for role, name in box.nodes if role == "label")
 
@@ -214,9 +207,16 @@ class Program:
         self.answer("Yes")
         assert self.process.wait(10) == 0
 
-    def kill(self, how=signal.SIGKILL):
-        self.process.send_signal(how)
+    def end_session(self):
+        system.end_session(self.process)
+
+    def kill(self):
+        self.process.kill()
         return self.process.wait(20)
+
+    def used(self):
+        """The time of the processor so far, in seconds."""
+        return system.used(self.process)
 
 
 class Road(unittest.TestCase):
@@ -237,7 +237,7 @@ class Road(unittest.TestCase):
         """Tab goes through the widgets in the order given, and back to the first."""
         for role, names in [*order, (order[0][0], order[0][1][:1])]:
             for name in names:
-                until(lambda: has(page[role, str(name)], "FOCUSED"), f"the focus on {name}")
+                until(lambda: page[role, str(name)].has("FOCUSED"), f"the focus on {name}")
                 keys("Tab")
 
     @staticmethod

@@ -4,8 +4,6 @@
 
 namespace desktop_qt {
 
-namespace {
-
 int keyCode(const QKeyEvent& event) {
     static const QHash<int, int> kCodes{
         {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
@@ -21,7 +19,6 @@ int keyCode(const QKeyEvent& event) {
     return kCodes.value(key, key < 0x100 ? qMax(1, key) : 0xFF);
 }
 
-// A held key that repeats counts itself too.
 int shiftMask(const QKeyEvent& event) {
     // The event's own modifiers() turns the bit of a modifier key round, which is wrong for one
     // that repeats.
@@ -29,29 +26,19 @@ int shiftMask(const QKeyEvent& event) {
     const int key = event.key();
     int mask = 0;
     if (before.testFlag(Qt::ShiftModifier) || key == Qt::Key_Shift)
-        mask |= toolkit::ShiftDown;
+        mask |= 1;
     if (before.testFlag(Qt::ControlModifier) || key == Qt::Key_Control)
-        mask |= toolkit::CtrlDown;
+        mask |= 2;
     if (before.testFlag(Qt::AltModifier) || key == Qt::Key_Alt)
-        mask |= toolkit::AltDown;
+        mask |= 4;
     return mask;
 }
 
-int character(const QKeyEvent& event) {
+int keyAscii(const QKeyEvent& event) {
     if (event.key() == Qt::Key_Delete || event.modifiers().testFlag(Qt::AltModifier))
         return 0;
-    const QList<uint> typed = event.text().toUcs4();
-    return typed.isEmpty() ? 0 : static_cast<int>(typed.first());
-}
-
-} // namespace
-
-toolkit::KeyStroke keyStroke(const QKeyEvent& event) {
-    return {.code = keyCode(event),
-            .shift = shiftMask(event),
-            .character = character(event),
-            .repeats = event.isAutoRepeat(),
-            .copies = event.matches(QKeySequence::Copy)};
+    const QString typed = event.text();
+    return typed.isEmpty() ? 0 : typed.at(0).unicode();
 }
 
 } // namespace desktop_qt
