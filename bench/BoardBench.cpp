@@ -6,6 +6,7 @@
 #include "desktop/qt/QtDesktop.h"
 #include "frame/MDIForm1.h"
 #include "frame/Navigation.h"
+#include "frame/modConstants.h"
 #include "lists/frmCustomize6.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
@@ -175,7 +176,7 @@ Draw customDraw(int turns) {
         boardChange(page.Label1, [&] { clickRow(page, 3); });
         boardChange(page.Label1, [&] { clickRow(page, i % 2 + 1); });
         quorvanta::cLotto lotto;
-        lotto.prpControl = page.Label1.ref();
+        lotto.prpControl.Set(page.Label1.ref());
         const auto start = Clock::now();
         lotto.prpActionToDo = quorvanta::cLotto::DrawFromEnabled;
         figures.engine.add(std::chrono::duration<double, std::milli>(Clock::now() - start).count());

@@ -1,5 +1,6 @@
 // How many plays a second the draw engine makes on the number board, with no desktop attached and
 // the system's random generator. Fails below the promised million.
+#include "frame/modConstants.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "platform/StandardRandom.h"
@@ -26,7 +27,7 @@ void clear() {
 // A fresh engine for each play, as the page does it.
 void play(int count) {
     quorvanta::cLotto lotto;
-    lotto.prpControl = board().ref();
+    lotto.prpControl.Set(board().ref());
     lotto.prpDrawNumber = count;
     lotto.prpActionToDo = quorvanta::cLotto::Draw;
 }

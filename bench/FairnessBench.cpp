@@ -2,6 +2,7 @@
 // the count of every number lies within five standard deviations of its expected value, and so does
 // the chi-squared statistic of the pairs. Usage: fairness_bench [plays]
 #include "bench/Fairness.h"
+#include "frame/modConstants.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "platform/StandardRandom.h"
@@ -27,7 +28,7 @@ int main(int count, char** arguments) {
     std::vector<int> numbers;
     for (long i = 0; i < plays; ++i) {
         quorvanta::cLotto lotto;
-        lotto.prpControl = board.ref();
+        lotto.prpControl.Set(board.ref());
         lotto.prpDrawNumber = quorvanta::kDrawn;
         lotto.prpActionToDo = quorvanta::cLotto::Draw;
         numbers.clear();

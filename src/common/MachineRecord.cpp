@@ -17,8 +17,6 @@ struct Row {
 };
 
 constexpr Row kRecord[] = {
-    {"Computer Name: ", &cLocalSettings::prpComputerName},
-    {"Computer UserName: ", &cLocalSettings::prpComputerUserName},
     {"Country Name: ", &cLocalSettings::prpAbbrevCountryName},
     {"CountryCode: ", &cLocalSettings::prpCountryCode},
     {"Date Seperator: ", &cLocalSettings::prpDateSeperator},
@@ -61,10 +59,15 @@ constexpr Row kRecord[] = {
 void WriteSystemData() {
     trapped("MainCodeYQ.WriteSystemData", [](auto step) {
         cLocalSettings settings;
+        const auto record = [](const char* label, const std::string& value) {
+            WriteDebugLog(kNoNumber, label, value, kNoTime);
+        };
+        step([&] { record("Computer Name: ", settings.prpComputerName()); });
+        step([&] { record("Computer UserName: ", settings.prpComputerUserName()); });
         for (const Row& row : kRecord)
-            step([&] { WriteDebugLog(kNoNumber, row.label, (settings.*row.property)(), kNoTime); });
-        step([] { WriteDebugLog(kNoNumber, "End of Debug Info Gathering ", "", kNoTime); });
-        step([] { WriteDebugLog(kNoNumber, "", "", kNoTime); });
+            step([&] { record(row.label, (settings.*row.property)()); });
+        step([&] { record("End of Debug Info Gathering ", ""); });
+        step([&] { record("", ""); });
         step([&] { gstrShortDateFormat = settings.prpShortDateFormat(); });
     });
 }

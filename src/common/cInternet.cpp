@@ -34,8 +34,7 @@ void OpenProductWebsite(toolkit::Form& frm) {
         frmURL::the().Show(true);
 }
 
-void cInternet::let_prpAction(const std::string& word) {
-    mvarAction = word;
+void cInternet::run(const std::string& word) {
     const std::string action = lowerCase(word);
     if (action == "email")
         SendEmail();
@@ -44,12 +43,12 @@ void cInternet::let_prpAction(const std::string& word) {
 }
 
 void cInternet::GoOnline() const {
-    trapped("cHttp.GoOnline", [&](auto step) { step([&] { OpenAddress(mvarHwnd, mvarURL); }); });
+    trapped("cHttp.GoOnline", [&](auto step) { step([&] { OpenAddress(prpHwnd(), prpURL()); }); });
 }
 
 void cInternet::SendEmail() const {
     trapped("SendEmail",
-            [&](auto step) { step([&] { OpenAddress(mvarHwnd, "mailto:" + mvarMailTo); }); });
+            [&](auto step) { step([&] { OpenAddress(prpHwnd(), "mailto:" + prpMailTo()); }); });
 }
 
 } // namespace quorvanta

@@ -2,6 +2,7 @@
 // nothing waits for a program that it starts.
 #pragma once
 
+#include "common/WorkerProperty.h"
 #include "toolkit/Form.h"
 
 #include <cstdint>
@@ -17,39 +18,23 @@ int OpenAddress(std::uintptr_t window, const std::string& address);
 // links to copy, and the call returns when it is closed.
 void OpenProductWebsite(toolkit::Form& frm);
 
-// Opens a web page or a new mail. A caller sets the window and what to open, and then writes the
-// action with let_prpAction, which carries it out at once. For each member let_ and set_ store a
-// value alike; only let_prpAction does more.
+// Opens a web page or a new mail. A caller sets the window and what to open, and then writes
+// prpAction, which carries it out at once.
 class cInternet {
+    void run(const std::string& word);
+
 public:
-    // The handle of the window that owns the launch.
-    void let_prpHwnd(std::uintptr_t window) { mvarHwnd = window; }
-    void set_prpHwnd(std::uintptr_t window) { mvarHwnd = window; }
-    std::uintptr_t prpHwnd() const { return mvarHwnd; }
-
+    VariantProperty<std::uintptr_t> prpHwnd; // the window that owns the launch
     // "url" opens prpURL, "email" writes to prpMailTo, in capitals or not. Other words do nothing.
-    // A failure is reported to the user.
-    void let_prpAction(const std::string& word);
-    void set_prpAction(const std::string& word) { mvarAction = word; }
-    const std::string& prpAction() const { return mvarAction; }
-
-    void let_prpURL(const std::string& address) { mvarURL = address; }
-    void set_prpURL(const std::string& address) { mvarURL = address; }
-    const std::string& prpURL() const { return mvarURL; }
-
-    // A mail address without a scheme.
-    void let_prpMailTo(const std::string& address) { mvarMailTo = address; }
-    void set_prpMailTo(const std::string& address) { mvarMailTo = address; }
-    const std::string& prpMailTo() const { return mvarMailTo; }
+    // A failure is reported to the user. Its Set keeps the word and carries nothing out.
+    KeptJobProperty<VariantProperty<std::string>, cInternet, std::string, &cInternet::run>
+        prpAction{*this};
+    VariantProperty<std::string> prpURL;
+    VariantProperty<std::string> prpMailTo; // a mail address without a scheme
 
 private:
     void GoOnline() const;
     void SendEmail() const;
-
-    std::uintptr_t mvarHwnd = 0;
-    std::string mvarAction;
-    std::string mvarURL;
-    std::string mvarMailTo;
 };
 
 } // namespace quorvanta

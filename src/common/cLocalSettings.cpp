@@ -17,15 +17,7 @@ std::string asText(const std::string& bytes) {
     return platform::current().locale.fromBytes(bytes);
 }
 
-using Question = std::optional<std::string> (platform::Machine::*)() const;
-
-std::string nameFrom(Question ask) {
-    std::string buffer(256, '\0');
-    fill(buffer, (platform::current().machine.*ask)());
-    return asText(cLocalSettings::StringFromBuffer(buffer));
-}
-
-std::string directoryFrom(Question ask, const char* label) {
+std::string directoryFrom(cLocalSettings::Name::Question ask, const char* label) {
     std::string directory;
     trapped(label, [&](auto step) {
         std::string buffer(255, ' ');
@@ -41,14 +33,11 @@ std::string directoryFrom(Question ask, const char* label) {
 
 } // namespace
 
-std::string cLocalSettings::prpComputerUserName() {
-    mvarComputerUserName = nameFrom(&platform::Machine::GetUserNameA);
-    return mvarComputerUserName;
-}
-
-std::string cLocalSettings::prpComputerName() {
-    mvarComputerName = nameFrom(&platform::Machine::GetComputerNameA);
-    return mvarComputerName;
+const std::string& cLocalSettings::Name::operator()() {
+    std::string buffer(256, '\0');
+    fill(buffer, (platform::current().machine.*ask_)());
+    *this = asText(StringFromBuffer(buffer));
+    return VariantProperty::operator()();
 }
 
 std::string cLocalSettings::prpMetrics() {

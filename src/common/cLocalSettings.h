@@ -1,9 +1,12 @@
 // The machine and the user's locale, asked afresh at every read.
 #pragma once
 
+#include "common/WorkerProperty.h"
 #include "platform/LocaleItems.h"
+#include "platform/Machine.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,12 +16,21 @@ namespace quorvanta {
 // platform has no answer. An instance serves one caller at a time.
 class cLocalSettings {
 public:
-    // The logged-on user and the computer. What is set is kept until the next read, which takes the
-    // platform's answer in its place.
-    void prpComputerUserName(const std::string& name) { mvarComputerUserName = name; }
-    std::string prpComputerUserName();
-    void prpComputerName(const std::string& name) { mvarComputerName = name; }
-    std::string prpComputerName();
+    // The logged-on user and the computer. What is let or set is kept until the next Get, which
+    // takes the platform's answer in its place.
+    class Name : public VariantProperty<std::string> {
+    public:
+        using Question = std::optional<std::string> (platform::Machine::*)() const;
+        explicit Name(Question ask) : ask_(ask) {}
+
+        using VariantProperty::operator=;
+        const std::string& operator()();
+
+    private:
+        Question ask_;
+    };
+    Name prpComputerUserName{&platform::Machine::GetUserNameA};
+    Name prpComputerName{&platform::Machine::GetComputerNameA};
 
     std::string prpCenturyFormatSpecificer() { return read(platform::LOCALE_ICENTURY); }
     std::string prpTimeFormatSpecifier() { return read(platform::LOCALE_ITIME); }
@@ -83,8 +95,6 @@ private:
     std::array<char, 100> mstrBuffer{};
     std::string mstrLocaleLength;
     std::string mstrLocaleValue;
-    std::string mvarComputerName;
-    std::string mvarComputerUserName;
 };
 
 } // namespace quorvanta

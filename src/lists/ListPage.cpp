@@ -119,7 +119,7 @@ void ListPage::setRows() {
 
 void ListPage::toggleKey(const Step& step, int number) {
     cLotto lotto;
-    step([&] { lotto.prpControl = cmdKey.ref(); });
+    step([&] { lotto.prpControl.Set(cmdKey.ref()); });
     lotto.mintFrmButtons = number;
     step([&] { lotto.prpActionToDo = cLotto::ToggleKey; });
 }
@@ -154,7 +154,7 @@ void ListPage::cmdReset_Click() {
 void ListPage::DeleteGridRow(int row) {
     trapped(design_.labels.remove, [&](auto step) {
         cFlexGrid rows;
-        step([&] { rows.prpGrid = grd1.ref(); });
+        step([&] { rows.prpGrid.Set(grd1.ref()); });
         rows.prpActiveRow = row;
         rows.prpStartPos = 1;
         rows.prpEndPos = design_.lastColumn;
@@ -223,7 +223,7 @@ void ListPage::ShiftRows() {
         if (empty)
             return msgNoEmptyRow();
         cFlexGrid rows;
-        step([&] { rows.prpGrid = grd1.ref(); });
+        step([&] { rows.prpGrid.Set(grd1.ref()); });
         rows.prpStartPos = 1;
         rows.prpEndPos = design_.lastColumn;
         rows.prpActiveRow = mintFirstRow;

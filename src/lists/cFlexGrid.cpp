@@ -8,13 +8,7 @@
 
 namespace quorvanta {
 
-toolkit::MSFlexGrid& cFlexGrid::grid() const {
-    if (!prpGrid)
-        throw platform::RuntimeError(platform::InvalidCall);
-    return *prpGrid;
-}
-
-void cFlexGrid::run(int action) {
+void cFlexGrid::run(const int& action) {
     switch (action) {
     case LayOut:
         return SetEmptyGrid();
@@ -35,15 +29,15 @@ void cFlexGrid::run(int action) {
 void cFlexGrid::MoveRowsUp() {
     trapped("cFlexGrid.MoveRowsUp", [&](auto step) {
         int last = 0;
-        step([&] { last = grid().Rows - 2; });
+        step([&] { last = prpGrid().Rows - 2; });
         for (int i = 0; i <= last; ++i) {
             bool empty = true;
-            step([&] { empty = grid().TextMatrix(i, 1).empty(); });
+            step([&] { empty = prpGrid().TextMatrix(i, 1).empty(); });
             if (!empty)
                 continue;
-            for (int c = prpStartPos; c <= prpEndPos; ++c) {
-                step([&] { grid().TextMatrix(i, c) = grid().TextMatrix(i + 1, c); });
-                step([&] { grid().TextMatrix(i + 1, c) = ""; });
+            for (int c = prpStartPos(); c <= prpEndPos(); ++c) {
+                step([&] { prpGrid().TextMatrix(i, c) = prpGrid().TextMatrix(i + 1, c); });
+                step([&] { prpGrid().TextMatrix(i + 1, c) = ""; });
             }
         }
     });
@@ -51,20 +45,21 @@ void cFlexGrid::MoveRowsUp() {
 
 void cFlexGrid::DeleteGridRow() {
     trapped("cFlexGrid.DeleteGridRow", [&](auto step) {
-        for (int c = prpStartPos; c <= prpEndPos; ++c)
-            step([&] { grid().TextMatrix(prpActiveRow, c) = ""; });
+        for (int c = prpStartPos(); c <= prpEndPos(); ++c)
+            step([&] { prpGrid().TextMatrix(prpActiveRow(), c) = ""; });
     });
 }
 
 void cFlexGrid::SetEmptyGrid() {
     trapped("cFlexGrid.SetEmptyGrid", [&](auto step) {
-        step([&] { grid().Clear(); });
-        step([&] { grid().Rows = prpGridRows; });
-        step([&] { grid().Cols = prpGridCols; });
-        step([&] { grid().FixedCols = 0; });
-        for (int c = 0; c < prpGridCols; ++c)
+        step([&] { prpGrid().Clear(); });
+        step([&] { prpGrid().Rows = prpGridRows(); });
+        step([&] { prpGrid().Cols = prpGridCols(); });
+        step([&] { prpGrid().FixedCols = 0; });
+        for (int c = 0; c < prpGridCols(); ++c)
             step([&] {
-                grid().setColWidth(c, static_cast<int>(std::nearbyint(grid().Width / prpGridCols)));
+                prpGrid().setColWidth(
+                    c, static_cast<int>(std::nearbyint(prpGrid().Width / prpGridCols())));
             });
     });
 }
@@ -72,14 +67,14 @@ void cFlexGrid::SetEmptyGrid() {
 void cFlexGrid::ExchangeRows() {
     trapped("cFlexGrid.ExchangeRows", [&](auto step) {
         std::map<int, std::string> first, second; // by column
-        for (int c = prpStartPos; c <= prpEndPos; ++c)
-            step([&] { first[c] = grid().text(prpActiveRow, c); });
-        for (int c = prpStartPos; c <= prpEndPos; ++c)
-            step([&] { second[c] = grid().text(prpSecondRow, c); });
-        for (int c = prpStartPos; c <= prpEndPos; ++c)
-            step([&] { grid().TextMatrix(prpSecondRow, c) = first[c]; });
-        for (int c = prpStartPos; c <= prpEndPos; ++c)
-            step([&] { grid().TextMatrix(prpActiveRow, c) = second[c]; });
+        for (int c = prpStartPos(); c <= prpEndPos(); ++c)
+            step([&] { first[c] = prpGrid().text(prpActiveRow(), c); });
+        for (int c = prpStartPos(); c <= prpEndPos(); ++c)
+            step([&] { second[c] = prpGrid().text(prpSecondRow(), c); });
+        for (int c = prpStartPos(); c <= prpEndPos(); ++c)
+            step([&] { prpGrid().TextMatrix(prpSecondRow(), c) = first[c]; });
+        for (int c = prpStartPos(); c <= prpEndPos(); ++c)
+            step([&] { prpGrid().TextMatrix(prpActiveRow(), c) = second[c]; });
     });
 }
 

@@ -2,7 +2,7 @@
 // writes prpActionToDo, which runs the job at once:
 //
 //     cFlexGrid rows;
-//     rows.prpGrid = grd1.ref();
+//     rows.prpGrid.Set(grd1.ref());
 //     rows.prpStartPos = 1;
 //     rows.prpEndPos = 49;
 //     rows.prpActiveRow = 3;
@@ -13,13 +13,14 @@
 // Storing the changed rows is the page's business.
 #pragma once
 
+#include "common/WorkerProperty.h"
 #include "toolkit/MSFlexGrid.h"
-
-#include <memory>
 
 namespace quorvanta {
 
 class cFlexGrid {
+    void run(const int& action);
+
 public:
     enum Action {
         LayOut = 1,   // SetEmptyGrid: prpGrid, prpGridRows, prpGridCols
@@ -28,38 +29,21 @@ public:
         SwapRows = 4  // ExchangeRows, then MoveRowsUp: likewise, prpActiveRow, prpSecondRow
     };
 
-    std::shared_ptr<toolkit::MSFlexGrid> prpGrid;
-    int prpGridRows = 0;
-    int prpGridCols = 0;
-    int prpStartPos = 0; // the columns of a row operation, both ends included
-    int prpEndPos = 0;
-    int prpActiveRow = 0; // the row to clear, or the first of two
-    int prpSecondRow = 0;
-
-    void run(int action);
-
-    class ActionToDo {
-    public:
-        explicit ActionToDo(cFlexGrid& owner) : owner_(owner) {}
-        ActionToDo(const ActionToDo&) = delete;
-        ActionToDo& operator=(int action) {
-            owner_.run(action);
-            return *this;
-        }
-
-    private:
-        cFlexGrid& owner_;
-    };
+    ObjectProperty<toolkit::MSFlexGrid> prpGrid;
+    ValueProperty<int> prpGridCols;
     // Runs the action and doesn't keep it. Values that aren't an Action do nothing.
-    ActionToDo prpActionToDo{*this};
+    JobProperty<cFlexGrid, int, &cFlexGrid::run> prpActionToDo{*this};
+    ValueProperty<int> prpGridRows;
+    ValueProperty<int> prpStartPos;  // the columns of a row operation, both ends included
+    ValueProperty<int> prpActiveRow; // the row to clear, or the first of two
+    ValueProperty<int> prpEndPos;
+    ValueProperty<int> prpSecondRow;
 
 private:
     void MoveRowsUp();
     void DeleteGridRow();
     void SetEmptyGrid();
     void ExchangeRows();
-
-    toolkit::MSFlexGrid& grid() const;
 };
 
 } // namespace quorvanta

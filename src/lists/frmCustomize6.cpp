@@ -106,7 +106,7 @@ void frmCustomize6::clearNumber(int number) {
 void frmCustomize6::SetAllNumbers() {
     trapped("frmCustomize6.SetAllNumbers", [&](auto step) {
         cLotto lotto;
-        step([&] { lotto.prpControl = cmdKey.ref(); });
+        step([&] { lotto.prpControl.Set(cmdKey.ref()); });
         lotto.prpHighNumber = kNumbers;
         lotto.prpMinNumber = 1;
         step([&] { lotto.prpActionToDo = cLotto::PickAll; });
@@ -128,8 +128,8 @@ void frmCustomize6::GoCustomJackPot(int mode) {
             return;
         }
         cLotto lotto;
-        step([&] { lotto.prpControl = Label1.ref(); });
-        step([&] { lotto.prpGrid = grd1.ref(); });
+        step([&] { lotto.prpControl.Set(Label1.ref()); });
+        step([&] { lotto.prpGrid.Set(grd1.ref()); });
         lotto.prpHighNumber = kNumbers;
         lotto.prpMinNumber = 1;
         lotto.prpRowNumber = row;

@@ -2,12 +2,13 @@
 
 #include "common/NumberText.h"
 #include "common/Trap.h"
+#include "frame/modConstants.h"
 #include "platform/Platform.h"
-#include "toolkit/Desktop.h"
 
 #include <array>
 #include <cmath>
 #include <span>
+#include <string>
 
 namespace quorvanta {
 
@@ -45,14 +46,7 @@ std::string trimmed(const std::string& text) {
 
 } // namespace
 
-toolkit::Control& cLotto::control(int index) const {
-    if (!prpControl)
-        throw RuntimeError(platform::InvalidCall);
-    return (*prpControl)(index);
-}
-
-void cLotto::run(int action) {
-    action_ = action;
+void cLotto::run(const int& action) {
     switch (action) {
     case Draw:
         return Lotto49();
@@ -79,7 +73,7 @@ void cLotto::Lotto49() {
                 throw RuntimeError(platform::SubscriptOutOfRange);
             return slots[static_cast<std::size_t>(i - 1)];
         };
-        for (int i = 1; i <= prpDrawNumber; ++i)
+        for (int i = 1; i <= prpDrawNumber(); ++i)
             step([&] {
                 // With all 49 drawn every further draw would hit: the missing slot is met first.
                 int& free = slot(i);
@@ -88,40 +82,39 @@ void cLotto::Lotto49() {
                     number = drawOne();
                 free = number;
             });
-        for (int i = 1; i <= prpDrawNumber; ++i)
-            step([&] { control(slot(i)).ForeColor = toolkit::kRed; });
+        for (int i = 1; i <= prpDrawNumber(); ++i)
+            step([&] { prpControl()(slot(i)).ForeColor = toolkit::kRed; });
     });
 }
 
 void cLotto::PlayCustomNumbers() {
     trapped("cLotto.PlayCustomNumbers", [&](auto step) {
         std::array<int, kDrawn> slots{};
-        // The events that DoEvents runs may drop this object's page and all it refers to.
-        const auto board = prpControl;
-        int drawn = 0;
+        std::size_t drawn = 0;
         while (drawn < kDrawn) {
             bool left = false;
-            step([&] { left = board ? anyLeft(*board, slots) : control(0).Enabled; });
+            step([&] { left = anyLeft(prpControl(), slots); });
             if (!left)
                 break;
-            const int number = drawOne();
+            int number = 0; // counts as drawn, as long as a slot is free
+            step([&] { number = drawOne(); });
             step([&] { toolkit::DoEvents(); });
             if (among(slots, number))
                 continue;
             bool enabled = true;
-            step([&] { enabled = (*board)(number).Enabled; });
+            step([&] { enabled = prpControl()(number).Enabled; });
             if (enabled)
-                slots[static_cast<std::size_t>(drawn++)] = number;
+                slots[drawn++] = number;
         }
-        for (int i = 0; i < drawn; ++i)
-            step([&] { (*board)(slots[static_cast<std::size_t>(i)]).ForeColor = toolkit::kRed; });
+        for (std::size_t i = 0; i < drawn; ++i)
+            step([&] { prpControl()(slots[i]).ForeColor = toolkit::kRed; });
     });
 }
 
 void cLotto::SetCmdButtons() {
     trapped("cLotto.SetCmdButtons", [&](auto step) {
         step([&] {
-            auto& key = control(mintFrmButtons);
+            auto& key = prpControl()(mintFrmButtons);
             key.FontBold = !key.FontBold;
         });
     });
@@ -129,41 +122,37 @@ void cLotto::SetCmdButtons() {
 
 void cLotto::SetAllButtons() {
     trapped("cLotto.SetAllButtons", [&](auto step) {
-        for (int i = prpMinNumber; i <= prpHighNumber; ++i)
-            step([&] { control(i).FontBold = true; });
+        for (int i = prpMinNumber(); i <= prpHighNumber(); ++i)
+            step([&] { prpControl()(i).FontBold = true; });
     });
 }
 
 void cLotto::SetAllButtonsNoBold() {
     trapped("cLotto.SetAllButtonsNoBold", [&](auto step) {
-        for (int i = prpMinNumber; i <= prpHighNumber; ++i)
-            step([&] { control(i).FontBold = false; });
+        for (int i = prpMinNumber(); i <= prpHighNumber(); ++i)
+            step([&] { prpControl()(i).FontBold = false; });
     });
 }
 
 void cLotto::SetCustomNumbers() {
     trapped("cLotto.SetCustomNumbers", [&](auto step) {
         // Enabled while it is blackened: that clears a red mark on a disabled control too.
-        for (int i = prpMinNumber; i <= prpHighNumber; ++i) {
-            step([&] { control(i).Enabled = true; });
-            step([&] { control(i).ForeColor = toolkit::kBlack; });
-            step([&] { control(i).Enabled = false; });
+        for (int i = prpMinNumber(); i <= prpHighNumber(); ++i) {
+            step([&] { prpControl()(i).Enabled = true; });
+            step([&] { prpControl()(i).ForeColor = toolkit::kBlack; });
+            step([&] { prpControl()(i).Enabled = false; });
         }
-        if (prpRowNumber == 0) {
-            for (int i = prpMinNumber; i <= prpHighNumber; ++i)
-                step([&] { control(i).Enabled = true; });
+        if (prpRowNumber() == 0) {
+            for (int i = prpMinNumber(); i <= prpHighNumber(); ++i)
+                step([&] { prpControl()(i).Enabled = true; });
             return;
         }
-        for (int i = prpMinNumber; i <= prpHighNumber; ++i) {
+        for (int i = prpMinNumber(); i <= prpHighNumber(); ++i) {
             std::string cell;
-            step([&] {
-                if (!prpGrid)
-                    throw RuntimeError(platform::InvalidCall);
-                cell = trimmed(prpGrid->TextMatrix(prpRowNumber, i));
-            });
+            step([&] { cell = trimmed(prpGrid().TextMatrix(prpRowNumber(), i)); });
             if (cell.empty())
                 break; // the first empty cell ends the row
-            step([&] { control(CInt(cell)).Enabled = true; });
+            step([&] { prpControl()(CInt(cell)).Enabled = true; });
         }
     });
 }

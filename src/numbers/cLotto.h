@@ -3,7 +3,7 @@
 // prpActionToDo, which runs the job at once:
 //
 //     cLotto lotto;
-//     lotto.prpControl = lbl1.ref();
+//     lotto.prpControl.Set(lbl1.ref());
 //     lotto.prpDrawNumber = 6;
 //     lotto.prpActionToDo = cLotto::Draw;
 //
@@ -11,15 +11,14 @@
 // draw is kept nowhere but in the colours of the board.
 #pragma once
 
-#include "frame/modConstants.h"
-#include "toolkit/ControlArray.h"
-#include "toolkit/MSFlexGrid.h"
-
-#include <memory>
+#include "common/WorkerProperty.h"
+#include "toolkit/Form.h"
 
 namespace quorvanta {
 
 class cLotto {
+    void run(const int& action);
+
 public:
     enum Action {
         Draw = 1,           // Lotto49: prpControl, prpDrawNumber
@@ -30,19 +29,19 @@ public:
         DrawFromEnabled = 7 // PlayCustomNumbers: prpControl
     };
 
-    int mintFrmButtons = 0;           // the key that ToggleKey toggles
-    toolkit::Form* prpFrmX = nullptr; // kept for the caller
-    std::shared_ptr<toolkit::ControlArrayBase> prpControl;
-    std::shared_ptr<toolkit::MSFlexGrid> prpGrid;
-    int prpDrawNumber = 0; // how many numbers Draw draws, 0 to 49
-    int prpMinNumber = 0;  // the range of indices, both ends included
-    int prpHighNumber = 0;
-    int prpRowNumber = 0; // the grid row of ShowRow; 0 means all numbers
-
-    int action() const { return action_; }
-    void run(int action);
-    // Stores the action and runs it. Values that aren't an Action do nothing.
-    toolkit::Accessor<cLotto, int, &cLotto::action, &cLotto::run> prpActionToDo{*this};
+    int mintFrmButtons = 0; // the key that ToggleKey toggles
+    // Keeps the action and runs it. Values that aren't an Action do nothing.
+    KeptJobProperty<ValueProperty<int>, cLotto, int, &cLotto::run> prpActionToDo{*this};
+    ValueProperty<int> prpDrawNumber; // how many numbers Draw draws, 0 to 49
+    ObjectProperty<toolkit::ControlArrayBase> prpControl;
+    ObjectProperty<toolkit::Form> prpFrmX; // kept for the caller
+    ValueProperty<int> prpHighNumber;      // the range of indices, both ends included
+    ValueProperty<int> prpMinNumber;
+    // Its Let stores nothing.
+    struct : ObjectProperty<toolkit::MSFlexGrid> {
+        void operator=(const std::shared_ptr<toolkit::MSFlexGrid>& /*grid*/) {}
+    } prpGrid;
+    ValueProperty<int> prpRowNumber; // the grid row of ShowRow; 0 means all numbers
 
 private:
     void PlayCustomNumbers();
@@ -51,10 +50,6 @@ private:
     void Lotto49();
     void SetCmdButtons();
     void SetCustomNumbers();
-
-    toolkit::Control& control(int index) const;
-
-    int action_ = 0;
 };
 
 } // namespace quorvanta

@@ -116,7 +116,7 @@ void frmMain::cmdJackpot_Click() {
     cLotto lotto;
     for (int n = 1; n <= kNumbers; ++n)
         lbl1(n).ForeColor = toolkit::kBlack;
-    lotto.prpControl = lbl1.ref();
+    lotto.prpControl.Set(lbl1.ref());
     lotto.prpDrawNumber = CInt(opt1(mintSystem).Tag);
     lotto.prpActionToDo = cLotto::Draw;
 }

@@ -15,7 +15,7 @@ protected:
     // Draws on the board, and gives all numbers that are marked on it.
     Numbers draw(int count, cLotto::Action action = cLotto::Draw) {
         cLotto lotto;
-        lotto.prpControl = board.ref();
+        lotto.prpControl.Set(board.ref());
         lotto.prpDrawNumber = count;
         lotto.prpActionToDo = action;
         return numbersWhere([&](int n) { return board(n).ForeColor == toolkit::kRed; });

@@ -20,8 +20,8 @@ protected:
     cInternet internet;
 
     WebsiteTest() {
-        internet.let_prpURL("https://a.example/");
-        internet.let_prpMailTo("me@a.example");
+        internet.prpURL = "https://a.example/";
+        internet.prpMailTo = "me@a.example";
     }
     Texts opened() { return std::exchange(os.shell.opened, {}); }
 };
@@ -30,23 +30,23 @@ TEST_F(WebsiteTest, OnlyLettingAnActionWordLaunchesAndEachTimeAnew) {
     const std::string page = "open https://a.example/", mail = "open mailto:me@a.example";
     for (const auto& [word, launched] : std::vector<std::pair<std::string, Texts>>{
              {"URL", {page, page}}, {"Email", {mail, mail}}, {"web", {}}, {"url ", {}}}) {
-        internet.set_prpAction(word);
+        internet.prpAction.Set(word);
         EXPECT_EQ(opened(), Texts{}) << word;
-        internet.let_prpAction(word);
-        internet.let_prpAction(word);
+        internet.prpAction = word;
+        internet.prpAction = word;
         EXPECT_EQ(opened(), launched) << word;
     }
 }
 
 TEST_F(WebsiteTest, ALaunchThatCannotBeMadeIsReportedAndRetried) {
     os.shell.answer = 31; // no program for it: the call was made
-    internet.let_prpAction("url");
+    internet.prpAction = "url";
     EXPECT_TRUE(desk.boxes.empty());
     os.shell.broken = true;
-    internet.let_prpAction("email"); // to which the answer is Abort
+    internet.prpAction = "email"; // to which the answer is Abort
     desk.answers = {toolkit::Retry};
     desk.onBox = [this] { os.shell.broken = false; };
-    internet.let_prpAction("url");
+    internet.prpAction = "url";
     EXPECT_EQ(desk.takeReports(), (Texts{"53 SendEmail", "53 cHttp.GoOnline"}));
     EXPECT_EQ(opened().size(), 2U);
 }
