@@ -39,6 +39,21 @@ protected:
     }
 };
 
+TEST_F(BankrollPageTest, HasItsCaptionsToolTipsAndTabOrder) {
+    std::map<int, std::string> texts;
+    for (const toolkit::Control* const it : allControls(open()))
+        texts[it->TabIndex] = it->Caption.get() + it->ToolTipText.get();
+    texts.erase(12); // the balance
+    std::string all = open().Caption;
+    for (const auto& [index, text] : texts)
+        all += "|" + text;
+    EXPECT_EQ(all, "Quor Vanta  - Bankroll|Date Started|Total Amount Played|Total amount won|"
+                   "Largest win to date|Close|Calculator|Bankroll|Balance|Total Amount of Bets|"
+                   "Largest Win|Winnings  |Date Started");
+    EXPECT_EQ(std::tuple(open().txtWin(2).spokenAs, open().txtWin(1).spokenAs),
+              std::tuple("Total Amount of Bets", "Winnings"));
+}
+
 TEST_F(BankrollPageTest, EachBoxGoesThroughTheChainWhenItIsLeft) {
     struct Row {
         int box;

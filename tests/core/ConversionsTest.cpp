@@ -106,6 +106,8 @@ const DateTime kDay{2005, 7, 5}, kEvening{2005, 7, 5, 18, 2, 7};
 TEST_F(Conversions, DatesFollowTheirPictures) {
     EXPECT_EQ(ShortDateTime(kEvening), "7/5/2005 6:02:07 PM");
     EXPECT_EQ(ShortDateTime({2024, 12, 31}), "12/31/2024 12:00:00 AM");
+    EXPECT_EQ(ShortDateTime({2009, 9, 9, 12}), "9/9/2009 12:00:00 PM");
+    EXPECT_EQ(ReadDate("9/9/2009 12:00:00 PM"), DateTime({2009, 9, 9, 12}));
     items[42] = "Montag";
     items[62] = "Juli";
     EXPECT_EQ(FormatDate({2005, 7, 4, 18, 2, 7}, "dddd, dd. MMMM yy, H:m:s"),
@@ -128,13 +130,17 @@ TEST_F(Conversions, ADateIsReadInTheOrderOfItsLocale) {
     for (const auto& text : betweenBars("05/07/05|5. Juli 2005|5 jul. 2005|Juli 5, 2005|5. Juli"))
         EXPECT_EQ(ReadDate(text), kDay) << text;
     EXPECT_EQ(ReadDate("5. Jul 2005 Juli"), std::nullopt);
+    items[31] = "dd.MM.yyyy"; // its day is no name of a day
+    items[32] = "d 'l’'MMMM";
+    for (const auto& text : betweenBars("05/07/2005|5 l’juli 2005"))
+        EXPECT_EQ(ReadDate(text), kDay) << text;
 }
 
 TEST_F(Conversions, WhatIsNoDateIsRefused) {
-    for (const auto& text :
-         betweenBars("|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/5-2005|6:42|"
-                     "7.5|7,5|7 5|7/5/2005 24:00|7/5/2005 6|7/5/2005 6:60|7/5/2005 PM|"
-                     "7/5/2005 13:00 PM|7/5/2005/1|7/5/99/1|-7/5/2005|1e3|1/2/3/4/5/6/7"))
+    for (const auto& text : betweenBars(
+             "|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/5-2005|6:42|"
+             "7.5|7,5|7 5|7/5/2005 24:00|7/5/2005 6|7/5/2005,6:02 PM|7/5/2005 6:60|7/5/2005 PM|"
+             "7/5/2005 13:00 PM|7/5/2005/1|7/5/99/1|7x5x2005|-7/5/2005|1e3|1/2/3/4/5/6/7"))
         EXPECT_EQ(ReadDate(text), std::nullopt) << text;
 }
 

@@ -107,6 +107,10 @@ TEST_F(DataFile, ReadThatFailsAgainRightBehindAnIgnoredOneEndsTheFile) {
         EXPECT_EQ(gstrFavorites[1] + gstrFavorites[2] + gstrFavorites[3], rows);
         EXPECT_EQ(desk.takeReports(), Texts(reports, "57 ReadLottoFile"));
     }
+    os.files.fault = [](const auto&...) { throw platform::RuntimeError(platform::PathAccess); };
+    desk.answers = {Ignore}; // then nothing is open to be read
+    read();
+    EXPECT_EQ(desk.takeReports(), Texts{"75 ReadLottoFile"});
 }
 
 } // namespace

@@ -21,11 +21,25 @@ TEST_F(LocalSettings, TheRecordOfAStartNamesEachItemInOrder) {
     std::string& log = os.files.content["/app/DebugLog.TXT"];
     log.clear();
     WriteSystemData();
-    const std::regex record("\".*: \"\r\n(\"Description: (.*)\"\r\n)?\r\n");
-    EXPECT_EQ(std::regex_replace(log, record, "$2 "),
-              "OFFICE1 leipreir  5 29 14 5 11 10 9 4098 21 1 18 12 4098 20 20 6 4097 2 25 32 34 13 "
-              "22 19 8 4 28 27 31 33 15 4099 35 30 \"End of Debug Info Gathering \"\r\n\r\n"
-              "\"\"\r\n\r\n");
+    const std::regex record("\"(.*: )\"\r\n(\"Description: (.*)\"\r\n)?\r\n");
+    EXPECT_EQ(std::regex_replace(log, record, "$1$3 | "),
+              "Computer Name: OFFICE1 | Computer UserName: leipreir | Country Name:  | "
+              "CountryCode: 5 | Date Seperator: 29 | Decimal Seperator: 14 | "
+              "CountryCode: 5 | Default Code Page: 11 | Default Country Code: 10 | "
+              "Default Language Id: 9 | English Name of Country: 4098 | "
+              "Intl. Monetary Symbol: 21 | Language Id: 1 | Leading Zeros: 18 | "
+              "ListItem Seperator: 12 | Local Country: 4098 | Local Currency: 20 | "
+              "Local Currency Symbol: 20 | Localized Name of Country: 6 | "
+              "Local Language English Name: 4097 | Local Language Name: 2 | "
+              "Local Monetary Digits: 25 | Long Date Format: 32 | "
+              "Long Date Format Ordering: 34 | Metrics: 13 | "
+              "Monetary Decimal Seperator: 22 | Native Ascii: 19 | "
+              "Native Name of Country: 8 | Native Name of Language: 4 | "
+              "Native Currence Mode: 28 | Positive Monetary Mode: 27 | "
+              "Short Date Format: 31 | Short Date Format Ordering: 33 | "
+              "Thousand Seperator: 15 | Time Format: 4099 | Time Format Specifier: 35 | "
+              "Time Seperator: 30 | "
+              "\"End of Debug Info Gathering \"\r\n\r\n\"\"\r\n\r\n");
     EXPECT_EQ(gstrShortDateFormat, "31");
 }
 

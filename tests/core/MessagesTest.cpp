@@ -1,7 +1,15 @@
 // Message boxes, the error box and the debug log.
+#include "bankroll/frmBankroll.h"
 #include "common/Trap.h"
+#include "common/cLocalSettings.h"
+#include "common/frmURL.h"
 #include "common/modZWMsg.h"
+#include "frame/MDIForm1.h"
+#include "frame/MainCode_ZW.h"
+#include "storage/cQuorvantaLite.h"
 #include "tests/support/ProgramTest.h"
+
+#include <cmath>
 
 namespace {
 
@@ -14,32 +22,48 @@ constexpr const char* kLog = "/app/DebugLog.TXT";
 class MessagesTest : public tests::ProgramTest {};
 
 TEST_F(MessagesTest, EachShowsItsOwnBoxAndReportsUnderItsOwnLabel) {
+    using enum Icon;
     struct Message {
         void (*show)();
         std::string label;
-        Icon icon = Icon::Exclamation;
+        Icon icon;
+        std::string text;
         Buttons buttons = Buttons::OK;
         int defaultButton = 1;
     };
+    const Message messages[] = {
+        {[] { msgDeleteGridRow(); }, "modZWMsg.msgDeleteGridRow", Question,
+         "Do you want to delete this row from the grid?", Buttons::YesNoCancel, 2},
+        {msgOnlySixNumbers, "modZWMsg.msgOnlySixNumbers", Exclamation,
+         "You allready have 6 favorite numbers.\r\nQuor Vanta  limits you to 6 numbers.\r\n"
+         "To continue, either deselect a number or start a new favorite numbers listing."},
+        {msgMoreNumbersRequired, "XXX.msgMoreNumbersRequired", Exclamation,
+         "You must have at least 2 Favorite numbers before filing to grid"},
+        {msgMaxFavoriteNumbers, "modZWMsg.msgMaxFavoriteNumbers", Exclamation,
+         "You have reached the limit for your Favorite numbers.\r\n"
+         "To add a new row you must first delete one of your other listings"},
+        {msgNotEnoughStammNumbers, "modZWMsg.msgNotEnoughStammNumbers", Exclamation,
+         "You have not selected enough numbers to file-to-grid.\r\n"
+         "Please pick at least seven numbers and try again"},
+        {msgMaxStammNumbers, "modZWMsg.msgMaxStammNumbers", Exclamation,
+         "You have reached the limit for your Customized numbers.\r\n"
+         "To add a new row you must first delete one of your old Customized numbers"},
+        {msgNoEmptyRow, "XXX.msgNoEmptyRow", Information,
+         "The row you have selected is invalid. Please choose one with data in it."},
+        {msgNoDeleteRow, "XXX.msgNoDeleteRow", Exclamation,
+         "You have either not selected a row to delete or there is no data in the row you have "
+         "selected.\r\nPlease select a data filled row to delete before continuing"},
+        {msgNumericOnly, "", Information, "Please enter only a Numeric value"},
+        {msgEnterDate, "", Information, "Please enter a date"}};
     desk.onBox = [&] {
         if (desk.boxes.size() == 1)
             throw platform::RuntimeError(platform::OutOfMemory);
     };
-    for (const Message& message :
-         std::vector<Message>{{[] { msgDeleteGridRow(); }, "modZWMsg.msgDeleteGridRow",
-                               Icon::Question, Buttons::YesNoCancel, 2},
-                              {msgOnlySixNumbers, "modZWMsg.msgOnlySixNumbers"},
-                              {msgMoreNumbersRequired, "XXX.msgMoreNumbersRequired"},
-                              {msgMaxFavoriteNumbers, "modZWMsg.msgMaxFavoriteNumbers"},
-                              {msgNotEnoughStammNumbers, "modZWMsg.msgNotEnoughStammNumbers"},
-                              {msgMaxStammNumbers, "modZWMsg.msgMaxStammNumbers"},
-                              {msgNoEmptyRow, "XXX.msgNoEmptyRow", Icon::Information},
-                              {msgNoDeleteRow, "XXX.msgNoDeleteRow"},
-                              {msgNumericOnly, "", Icon::Information},
-                              {msgEnterDate, "", Icon::Information}}) {
+    for (const Message& message : messages) {
         desk.answers = {toolkit::Retry};
         message.show();
         const toolkit::MessageBox box = desk.boxes.at(2); // behind the failed one and its report
+        EXPECT_EQ(box.text, message.text);
         EXPECT_EQ(std::tuple(box.title, box.icon, box.buttons, box.defaultButton),
                   std::tuple("Quor Vanta ", message.icon, message.buttons, message.defaultButton));
         EXPECT_EQ(desk.takeReports().at(1), "7 " + message.label);
@@ -92,6 +116,43 @@ TEST_F(MessagesTest, TheErrorBoxComesAlsoWhenTheLogIsLost) {
         EXPECT_EQ(desk.boxes.at(0).title, "Quor Vanta ");
         EXPECT_EQ(desk.takeBoxes(), Texts{"An error has occured: -5\r\nOdd\r\nsome.Routine"});
     }
+}
+
+// A window that can be named, but neither be moved nor filled.
+struct Gone : toolkit::Peer {
+    void changed(toolkit::Prop which) override {
+        if (which != toolkit::Prop::Caption)
+            throw platform::RuntimeError(platform::OutOfMemory);
+    }
+};
+
+TEST_F(MessagesTest, EachTrapReportsUnderItsOwnLabel) {
+    os.locale.items.erase(platform::LOCALE_IMEASURE);
+    os.machine.broken = true;
+    gdblLoss = HUGE_VAL;
+    os.files.fault = [](const std::string& operation, const std::string&) {
+        if (operation == "changeDirectory")
+            throw platform::RuntimeError(platform::PathNotFound);
+    };
+    frmURL::the().attach(std::make_unique<Gone>());
+    frmURL::the().Txt1.attach(std::make_unique<Gone>());
+    toolkit::StatusBar& panels = MDIForm1::the().statBar1;
+    const std::pair<std::function<void()>, Texts> rows[] = {
+        {[&] { SetStatBarText(panels, 2, "x"); }, {"9 maincode_zw.SetStatBarText"}},
+        {[] { WriteSystemData(); }, {"13 MainCodeYQ.WriteSystemData"}},
+        {[] { cLocalSettings().prpWinDirectory(); }, {"76 cLocalSettings.GetWindowsDir"}},
+        {[] { cLocalSettings().prpWinSysDirectory(); }, {"76 cLocalSettings.GetWindowsSysDir"}},
+        {[] { frmURL::the().Load(); }, {"7 CenterForm", "7 frmURL.SetProperties"}},
+        {[] { frmBankroll::the().Load(); }, {"6 frmBankroll.SetFormProperties"}},
+        {[] { cQuorvantaLite().WriteLottoFile(); }, {"76 WriteLottoFile"}},
+    };
+    for (const auto& [routine, reports] : rows) {
+        routine();
+        EXPECT_EQ(desk.takeReports(), reports);
+    }
+    ReportUntrapped(platform::RuntimeError(platform::Overflow), "frmMain");
+    EXPECT_EQ(desk.boxes[0].icon, Icon::Critical);
+    EXPECT_EQ(desk.takeBoxes(), Texts{"An error has occured: 6\r\nOverflow\r\nfrmMain"});
 }
 
 // What a routine of three steps has done, its second one failing until it has been tried twice.

@@ -168,11 +168,15 @@ struct FakeLocale : platform::Locale {
 
 struct FakeMachine : platform::Machine {
     std::string user = "leipreir", computer = "OFFICE1", windows = "/usr/bin", system = "/usr/sbin";
+    bool broken = false; // its directories can't even be asked for
 
+    const std::string& directory(const std::string& path) const {
+        return broken ? throw platform::RuntimeError(platform::PathNotFound) : path;
+    }
     std::optional<std::string> GetUserNameA() const override { return user; }
     std::optional<std::string> GetComputerNameA() const override { return computer; }
-    std::optional<std::string> GetWindowsDirectoryA() const override { return windows; }
-    std::optional<std::string> GetSystemDirectoryA() const override { return system; }
+    std::optional<std::string> GetWindowsDirectoryA() const override { return directory(windows); }
+    std::optional<std::string> GetSystemDirectoryA() const override { return directory(system); }
 };
 
 // Keeps what it is asked for.
