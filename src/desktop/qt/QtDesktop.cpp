@@ -1,9 +1,11 @@
 #include "desktop/qt/QtDesktop.h"
 
 #include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/FocusRing.h"
 #include "desktop/qt/HelpViewer.h"
 #include "desktop/qt/Keys.h"
 #include "desktop/qt/Printer.h"
+#include "desktop/qt/Style.h"
 #include "desktop/qt/Windows.h"
 
 #include <QApplication>
@@ -133,6 +135,7 @@ QApplication& QtDesktop::application() {
     program_ = toolkit::App.Path + "/quorvanta";
     argv_ = {program_.data(), nullptr};
     application_ = std::make_unique<QApplication>(argc_, argv_.data());
+    QApplication::setStyle(new Style);
     // The texts are English whatever the locale is, and a board reads 1, 2, 3 from the left.
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setWindowIcon(iconOf("quorvanta")); // one for all windows
@@ -140,13 +143,23 @@ QApplication& QtDesktop::application() {
     QApplication::setCursorFlashTime(0);              // a blinking caret is work while idle
     application_->installEventFilter(this);
     connect(application_.get(), &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (Control* const control = controlOf(now)) {
+        Control* const control = controlOf(now);
+        showFocusOn(control);
+        if (control) {
             const QScopedValueRollback moving(focusMoves_, true);
             toolkit::Screen.focusMoved(*control);
         }
     });
     watchSession();
     return *application_;
+}
+
+// A text box shows by its caret and its selection that it has the focus.
+void QtDesktop::showFocusOn(const Control* control) {
+    const bool ringed = control && !dynamic_cast<const toolkit::TextBox*>(control);
+    if (!ring_)
+        ring_ = new FocusRing;
+    ring_->show(ringed ? widgetOf(*control) : nullptr);
 }
 
 FrameWindow* QtDesktop::frame() const {

@@ -5,6 +5,7 @@
 #include "desktop/SystemDesktop.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <array>
 #include <functional>
@@ -17,6 +18,7 @@ class QWidget;
 
 namespace desktop_qt {
 
+class FocusRing;
 class FrameWindow;
 
 class QtDesktop : public QObject, public desktop::SystemDesktop {
@@ -48,6 +50,7 @@ protected:
 private:
     QApplication& application();
     void watchSession();
+    void showFocusOn(const toolkit::Control* control);
     FrameWindow* frame() const;
     // The form that the keys of the window go to, or nullptr.
     static toolkit::Form* formWithKeys(const QObject* window);
@@ -59,6 +62,7 @@ private:
     int argc_ = 1;
     std::array<char*, 2> argv_{};
     std::unique_ptr<QApplication> application_;
+    QPointer<FocusRing> ring_; // goes with the window that it stands in
     std::uintptr_t lastHandle_ = 0;
     bool focusMoves_ = false; // a control is just being told that the focus goes or comes
 };
