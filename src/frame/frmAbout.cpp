@@ -21,7 +21,7 @@ struct TextLine {
     toolkit::Place place;
     int tabIndex;
     double size; // points
-    toolkit::Colour colour = toolkit::kThemeColour;
+    toolkit::Colour colour = toolkit::kBlack;
 };
 
 constexpr TextLine kLines[] = {{0, "", {120, 210, 2535, 495}, 1, 21.75},
@@ -39,6 +39,7 @@ constexpr TextLine kLines[] = {{0, "", {120, 210, 2535, 495}, 1, 21.75},
 } // namespace
 
 frmAbout::frmAbout() : FormOf(Kind::TopLevel, "frmAbout", 4860, 3900) {
+    BackColor = toolkit::kWhite; // blue titles with black shadows can't be read on a dark ground
     for (const TextLine& line : kLines) {
         auto& label = lbl1.load(line.index, *this, line.text, line.place);
         label.AutoSize = true;
@@ -52,8 +53,10 @@ frmAbout::frmAbout() : FormOf(Kind::TopLevel, "frmAbout", 4860, 3900) {
         lblCopyright(i).AutoSize = true;
         lblCopyright(i).design = {.size = 9.75, .bold = true};
         lblCopyright(i).FontBold = true;
+        lblCopyright(i).ForeColor = toolkit::kBlack;
     }
     lblUser.TextAlign = toolkit::Alignment::Centre;
+    lblUser.ForeColor = toolkit::kBlack;
     lblUser.shrinksText = true;
     lblUser.TabIndex = 10;
     for (int i = 0; i < kEmblemFrames; ++i) {

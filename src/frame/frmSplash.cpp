@@ -29,6 +29,7 @@ void buildTitle(toolkit::ControlArray<toolkit::Label>& title, toolkit::Form& for
 frmSplash::frmSplash() : FormOf(Kind::TopLevel, "frmSplash", 6600, 3225) {
     KeyPreview = true;
     Borderless = true;
+    Caption = kProductTitle;     // seen in task bars alone
     BackColor = toolkit::kWhite; // its picture and its colours are made for a light ground
     img1.Picture = "splash";
     imgLogo.Picture = "quorvanta";

@@ -148,7 +148,7 @@ class Program:
     def __init__(self, locale="en_US.UTF-8", leave_splash=True, **environment):
         self.process = system.start(APP, dict(os.environ, LC_ALL=locale, **environment))
         if leave_splash:
-            until(lambda: in_front("quorvanta"), "the splash")
+            until(lambda: in_front("Quor Vanta "), "the splash")
             keys("space")
             self.frame()
 

@@ -334,6 +334,7 @@ std::unique_ptr<FormPeer> makeTopLevelWindow(Form& form) {
     QAccessible::installFactory(describeWindow); // a second time changes nothing
     auto* const window = new TopLevelWindow(form);
     mark(window, form);
+    window->setWindowTitle(text(form.Caption));
     QWidget* const content = makeContent(form, window);
     window->setFixedSize(content->size());
     if (!form.Borderless)
