@@ -1,5 +1,7 @@
 #include "toolkit/Controls.h"
+#include "toolkit/Focus.h"
 #include "toolkit/Form.h"
+#include "toolkit/Keyboard.h"
 
 #include <algorithm>
 
@@ -113,6 +115,10 @@ void OptionButton::select(bool value) {
             }
     selected_ = value;
     tellPeer(*this, Prop::Value);
+    // The keyboard goes on from the selected one.
+    const auto* const focused = dynamic_cast<const OptionButton*>(form().ActiveControl);
+    if (value && focused && focused != this && &focused->parent() == &parent())
+        SetFocus();
     if (value)
         raiseClick();
 }
@@ -122,10 +128,38 @@ void OptionButton::click() {
         select(true);
 }
 
-int characters(const std::string& text) {
-    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; // not a continuation byte
-    }));
+namespace {
+
+bool isArrow(const KeyStroke& stroke) {
+    return stroke.code >= key::Left && stroke.code <= key::Down;
+}
+
+} // namespace
+
+bool CommandButton::useKey(const KeyStroke& key) {
+    if (!isArrow(key))
+        return false;
+    if (Control* const next = neighbour(*this, key.code))
+        next->SetFocus();
+    return true;
+}
+
+bool OptionButton::useKey(const KeyStroke& key) {
+    if (!isArrow(key))
+        return false;
+    if (Control* const next = neighbour(*this, key.code)) {
+        next->SetFocus();
+        next->click();
+    }
+    return true;
+}
+
+bool PictureBox::useKey(const KeyStroke& key) {
+    if (key.code != key::Space)
+        return false;
+    if (!key.repeats)
+        doubleClick();
+    return true;
 }
 
 void Timer::fire() {

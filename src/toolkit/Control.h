@@ -30,6 +30,7 @@ struct Font {
 
 class Control;
 class ControlArrayBase;
+struct KeyStroke;
 
 // A form or a frame: what controls stand in.
 class Container {
@@ -88,6 +89,12 @@ public:
     // Key codes and characters that an event sets to 0 are dropped.
     void keyDown(int& keyCode, int shift);
     void keyPress(int& keyAscii);
+
+    // Whether a control of this kind takes the keyboard at all; see takesFocus.
+    virtual bool takesKeys() const { return false; }
+    // What the control does with a key once the events of the key have been raised; false leaves
+    // the key to the desktop.
+    virtual bool useKey(const KeyStroke& /*key*/) { return false; }
 
     // Raised by Screen.focusMoved alone.
     void gotFocus();

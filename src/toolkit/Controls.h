@@ -3,6 +3,7 @@
 
 #include "toolkit/ControlArray.h"
 #include "toolkit/Drawing.h"
+#include "toolkit/Text.h"
 
 namespace toolkit {
 
@@ -28,6 +29,10 @@ public:
     bool Cancel = false;      // Esc presses it
     bool Default = false;     // Enter presses it
     bool speaksPicks = false; // a screen reader says "17, picked" while it is bold
+
+    bool takesKeys() const override { return true; }
+    // The arrow keys move the focus to the button that stands there.
+    bool useKey(const KeyStroke& key) override;
 };
 
 class OptionButton : public Control {
@@ -41,6 +46,9 @@ public:
     Accessor<OptionButton, bool, &OptionButton::selected, &OptionButton::select> Value{*this};
 
     void click() override;
+    bool takesKeys() const override { return true; }
+    // The arrow keys select the option that stands there.
+    bool useKey(const KeyStroke& key) override;
 
 private:
     bool selected_ = false;
@@ -70,6 +78,9 @@ public:
 class PictureBox : public PictureControl {
 public:
     using PictureControl::PictureControl;
+
+    bool takesKeys() const override { return true; }
+    bool useKey(const KeyStroke& key) override;
 };
 
 // A horizontal rule.
@@ -78,9 +89,6 @@ public:
     Line(Container& parent, std::string name, double x1, double x2, double y)
         : Control(parent, std::move(name), {}, {x1, y, x2 - x1, 0}) {}
 };
-
-// How many characters a text has, as SelLength counts them.
-int characters(const std::string& text);
 
 class TextBox : public Control {
 public:
@@ -93,6 +101,8 @@ public:
     Alignment TextAlign = Alignment::Left;
     bool shrinksText = false; // a smaller font, rather than a long text cut off
     bool Locked = false;      // the user can select and copy the text, not change it
+
+    bool takesKeys() const override { return true; }
 };
 
 // Fires in the event loop, so it never interrupts running code.

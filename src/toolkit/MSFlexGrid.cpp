@@ -1,6 +1,7 @@
 #include "toolkit/MSFlexGrid.h"
 
 #include "toolkit/Form.h"
+#include "toolkit/Keyboard.h"
 
 #include <algorithm>
 
@@ -107,6 +108,45 @@ void MSFlexGrid::clickRow(int row) {
 void MSFlexGrid::moveToRow(int row) {
     if (takesInput() && row >= FixedRows && row < rows_)
         setRow(row);
+}
+
+// One row stays in view.
+int MSFlexGrid::rowsToAPage() const {
+    const double room = Height - (rows_ > 0 ? RowHeight(0) : 0);
+    const int height = rows_ > FixedRows ? RowHeight(FixedRows) : 0;
+    return height > 0 ? std::max(1, static_cast<int>(room / height) - 1) : 1;
+}
+
+bool MSFlexGrid::useKey(const KeyStroke& key) {
+    const int first = FixedRows;
+    const int last = rows_ - 1;
+    switch (key.code) {
+    case key::Up:
+        moveToRow(std::max(first, row_ - 1));
+        return true;
+    case key::Down:
+        moveToRow(std::min(last, row_ + 1));
+        return true;
+    case key::PageUp:
+        moveToRow(std::max(first, row_ - rowsToAPage()));
+        return true;
+    case key::PageDown:
+        moveToRow(std::min(last, row_ + rowsToAPage()));
+        return true;
+    case key::Home:
+        moveToRow(first);
+        return true;
+    case key::End:
+        moveToRow(last);
+        return true;
+    case key::Space:
+    case key::Enter:
+        if (!key.repeats) // one press picks one row
+            clickRow(row_);
+        return true;
+    default:
+        return false;
+    }
 }
 
 std::shared_ptr<MSFlexGrid> MSFlexGrid::ref() {

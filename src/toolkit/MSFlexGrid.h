@@ -73,12 +73,18 @@ public:
     // The user moves to a data row with the keyboard: it becomes current, with no Click.
     void moveToRow(int row);
 
+    bool takesKeys() const override { return true; }
+    // Keys that move to another row or click the current one. Left and right are the desktop's: it
+    // scrolls its view sideways.
+    bool useKey(const KeyStroke& key) override;
+
     // A counted reference: it keeps the grid alive after its form has been unloaded.
     std::shared_ptr<MSFlexGrid> ref();
 
 private:
     void checkCell(int row, int column) const;
     void resize(int rows, int cols);
+    int rowsToAPage() const;
 
     int rows_ = 2, cols_ = 2;
     int row_ = 1, rowSel_ = 1;

@@ -52,7 +52,7 @@ protected:
 
     // A control or an entry of a menu; as often one of an array, such as a key, as another one.
     void onControl(const toolkit::Form& form) {
-        auto controls = allControls(form);
+        auto controls = toolkit::allControls(form);
         for (const toolkit::Menu* const menu : form.menuBar())
             std::ranges::copy(menu->entries(), std::back_inserter(controls));
         const bool alone = roll(2) == 0;

@@ -1,7 +1,9 @@
 // A desktop without windows that records what it is asked for, and what a user does on it.
 #pragma once
 
+#include "toolkit/Focus.h"
 #include "toolkit/Form.h"
+#include "toolkit/Keyboard.h"
 #include "toolkit/Printer.h"
 
 #include <algorithm>
@@ -12,27 +14,6 @@
 #include <vector>
 
 namespace tests {
-
-// Whether a click or the Tab key gives the control the focus.
-inline bool takesFocus(const toolkit::Control& control) {
-    const bool rightKind = dynamic_cast<const toolkit::CommandButton*>(&control) ||
-                           dynamic_cast<const toolkit::OptionButton*>(&control) ||
-                           dynamic_cast<const toolkit::TextBox*>(&control) ||
-                           dynamic_cast<const toolkit::PictureBox*>(&control) ||
-                           dynamic_cast<const toolkit::MSFlexGrid*>(&control);
-    return rightKind && control.Enabled && control.Visible;
-}
-
-// The controls of a form, also those in its frames.
-inline std::vector<toolkit::Control*> allControls(const toolkit::Container& of) {
-    std::vector<toolkit::Control*> all;
-    for (toolkit::Control* const control : of.controls()) {
-        all.push_back(control);
-        if (const auto* const inner = dynamic_cast<const toolkit::Container*>(control))
-            std::ranges::copy(allControls(*inner), std::back_inserter(all));
-    }
-    return all;
-}
 
 struct FakeDesktop : toolkit::Desktop {
     std::vector<toolkit::MessageBox> boxes; // in the order in which they were shown
@@ -59,14 +40,8 @@ struct FakeDesktop : toolkit::Desktop {
         }
     };
 
-    // A form that comes to the front gets the focus where it was, at first on the first control in
-    // the tab order.
     void show(toolkit::Form& form, bool /*modal*/) override {
-        toolkit::Control* to = form.ActiveControl;
-        for (toolkit::Control* const it : allControls(form))
-            if (takesFocus(*it) && !form.ActiveControl && (!to || it->TabIndex < to->TabIndex))
-                to = it;
-        if (to)
+        if (toolkit::Control* const to = toolkit::focusTarget(form))
             to->SetFocus();
     }
     int messageBox(const toolkit::MessageBox& box) override {
@@ -109,7 +84,7 @@ struct FakeDesktop : toolkit::Desktop {
 
 // A click moves the focus before it is told.
 inline void userClick(toolkit::Control& control) {
-    if (takesFocus(control))
+    if (toolkit::takesFocus(control))
         control.SetFocus();
     control.click();
 }
@@ -124,12 +99,11 @@ inline void userDoubleClickRow(toolkit::MSFlexGrid& grid, int row) {
     grid.doubleClick();
 }
 
-// The form sees a key before the control with the focus does.
-inline void userKey(toolkit::Form& form, int code, int shift = 0) {
-    const auto keep = form.shared_from_this();
-    form.previewKeyDown(code, shift);
-    if (code != 0 && form.ActiveControl)
-        form.ActiveControl->keyDown(code, shift);
+// A key, with what it types. Gives whether it was used up.
+inline bool userKey(toolkit::Form& form, int code, int shift = 0) {
+    const bool types =
+        shift <= toolkit::ShiftDown && (code < toolkit::key::Shift || code >= '0') && code <= 'Z';
+    return toolkit::pressKey(form, {.code = code, .shift = shift, .character = types ? code : 0});
 }
 
 } // namespace tests

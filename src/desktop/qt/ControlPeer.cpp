@@ -79,6 +79,11 @@ QWidget* widgetOf(const Control& control) {
     return peer ? peer->widget() : nullptr;
 }
 
+void giveFocus(QWidget& widget) {
+    widget.window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    widget.setFocus(Qt::OtherFocusReason);
+}
+
 void makePeers(toolkit::Container& container, QWidget* parent) {
     for (Control* control : container.controls()) {
         if (auto* const timer = dynamic_cast<toolkit::Timer*>(control)) {

@@ -35,6 +35,9 @@ private:
 toolkit::Control* controlOf(const QWidget* widget);
 QWidget* widgetOf(const toolkit::Control& control);
 
+// Gives the widget the focus, so that it is seen.
+void giveFocus(QWidget& widget);
+
 // Makes the widgets and peers of all controls in the container, inside `parent`.
 void makePeers(toolkit::Container& container, QWidget* parent);
 

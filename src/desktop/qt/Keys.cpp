@@ -4,6 +4,8 @@
 
 namespace desktop_qt {
 
+namespace {
+
 int keyCode(const QKeyEvent& event) {
     static const QHash<int, int> kCodes{
         {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},       {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
@@ -19,6 +21,7 @@ int keyCode(const QKeyEvent& event) {
     return kCodes.value(key, key < 0x100 ? qMax(1, key) : 0xFF);
 }
 
+// A held key that repeats counts itself too.
 int shiftMask(const QKeyEvent& event) {
     // The event's own modifiers() turns the bit of a modifier key round, which is wrong for one
     // that repeats.
@@ -26,19 +29,29 @@ int shiftMask(const QKeyEvent& event) {
     const int key = event.key();
     int mask = 0;
     if (before.testFlag(Qt::ShiftModifier) || key == Qt::Key_Shift)
-        mask |= 1;
+        mask |= toolkit::ShiftDown;
     if (before.testFlag(Qt::ControlModifier) || key == Qt::Key_Control)
-        mask |= 2;
+        mask |= toolkit::CtrlDown;
     if (before.testFlag(Qt::AltModifier) || key == Qt::Key_Alt)
-        mask |= 4;
+        mask |= toolkit::AltDown;
     return mask;
 }
 
-int keyAscii(const QKeyEvent& event) {
+int character(const QKeyEvent& event) {
     if (event.key() == Qt::Key_Delete || event.modifiers().testFlag(Qt::AltModifier))
         return 0;
-    const QString typed = event.text();
-    return typed.isEmpty() ? 0 : typed.at(0).unicode();
+    const QList<uint> typed = event.text().toUcs4();
+    return typed.isEmpty() ? 0 : static_cast<int>(typed.first());
+}
+
+} // namespace
+
+toolkit::KeyStroke keyStroke(const QKeyEvent& event) {
+    return {.code = keyCode(event),
+            .shift = shiftMask(event),
+            .character = character(event),
+            .repeats = event.isAutoRepeat(),
+            .copies = event.matches(QKeySequence::Copy)};
 }
 
 } // namespace desktop_qt

@@ -108,38 +108,14 @@ protected:
         if (grid_ && event->button() == Qt::LeftButton && rowAt(event) > 0)
             grid_->doubleClick();
     }
+    // The keys of rows are the grid's own.
     void keyPressEvent(QKeyEvent* event) override {
-        if (!grid_)
-            return;
-        const int row = grid_->row();
-        const int page = qMax(1, viewport()->height() / qMax(1, rowHeight(0)) - 1);
-        const int last = grid_->rows() - 1;
-        switch (event->key()) {
-        case Qt::Key_Up:
-            return grid_->moveToRow(qMax(1, row - 1));
-        case Qt::Key_Down:
-            return grid_->moveToRow(qMin(last, row + 1));
-        case Qt::Key_PageUp:
-            return grid_->moveToRow(qMax(1, row - page));
-        case Qt::Key_PageDown:
-            return grid_->moveToRow(qMin(last, row + page));
-        case Qt::Key_Home:
-            return grid_->moveToRow(1);
-        case Qt::Key_End:
-            return grid_->moveToRow(last);
-        case Qt::Key_Left:
-            return horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
-        case Qt::Key_Right:
-            return horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        case Qt::Key_Space:
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (!event->isAutoRepeat()) // one press picks one row
-                grid_->clickRow(row);
-            return;
-        default:
+        if (event->key() == Qt::Key_Left)
+            horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
+        else if (event->key() == Qt::Key_Right)
+            horizontalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+        else
             event->ignore();
-        }
     }
 
 private:

@@ -33,19 +33,11 @@ public:
             return ControlPeer::changed(which);
         const QSignalBlocker quiet(widget_);
         widget_->setChecked(option_.Value);
-        if (option_.Value && dynamic_cast<toolkit::OptionButton*>(focusedSibling()))
-            widget_->setFocus(Qt::OtherFocusReason); // the arrow keys go on from the selected one
     }
 
     void showCaption() override { widget_->setText(text(option_.Caption)); }
 
 private:
-    // The control of the same group that the keyboard is at.
-    toolkit::Control* focusedSibling() const {
-        toolkit::Control* const focused = option_.form().ActiveControl;
-        return focused && &focused->parent() == &option_.parent() ? focused : nullptr;
-    }
-
     toolkit::OptionButton& option_;
     QRadioButton* widget_;
 };

@@ -102,12 +102,6 @@ protected:
         if (event->button() == Qt::LeftButton)
             doubleClick();
     }
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() != Qt::Key_Space)
-            QLabel::keyPressEvent(event);
-        else if (!event->isAutoRepeat())
-            doubleClick();
-    }
     void paintEvent(QPaintEvent* event) override {
         PictureWidget::paintEvent(event);
         if (!hasFocus())

@@ -70,57 +70,6 @@ const char* label(toolkit::Button button) {
     return kLabels.at(static_cast<std::size_t>(button));
 }
 
-// The button of the form that Esc or Enter presses.
-toolkit::CommandButton* buttonWith(Form& form, bool toolkit::CommandButton::*role) {
-    for (Control* control : form.controls())
-        if (auto* const button = dynamic_cast<toolkit::CommandButton*>(control);
-            button && button->*role)
-            return button;
-    return nullptr;
-}
-
-// The button of the form that Alt and the key stand for, by the letter underlined in its caption.
-toolkit::CommandButton* buttonNamed(Form& form, const QKeyEvent& key) {
-    if (key.modifiers() != Qt::AltModifier)
-        return nullptr;
-    for (Control* control : form.controls()) {
-        auto* const button = dynamic_cast<toolkit::CommandButton*>(control);
-        if (button && button->Enabled && button->Visible &&
-            QKeySequence::mnemonic(text(button->Caption)) == QKeySequence(key.keyCombination()))
-            return button;
-    }
-    return nullptr;
-}
-
-// Esc presses the Cancel button, Alt and a letter the button with that letter. Enter presses the
-// button with the focus, else the Default button.
-toolkit::CommandButton* buttonFor(const QKeyEvent& key, Form& form, Control* focused) {
-    if (toolkit::CommandButton* const named = buttonNamed(form, key))
-        return named;
-    if (key.key() == Qt::Key_Escape)
-        return buttonWith(form, &toolkit::CommandButton::Cancel);
-    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter)
-        return nullptr;
-    auto* const button = dynamic_cast<toolkit::CommandButton*>(focused);
-    return button || dynamic_cast<toolkit::MSFlexGrid*>(focused)
-               ? button
-               : buttonWith(form, &toolkit::CommandButton::Default);
-}
-
-void press(toolkit::CommandButton& button, const QKeyEvent& key) {
-    if (key.modifiers() == Qt::AltModifier)
-        button.SetFocus();
-    if (!key.isAutoRepeat()) // a held Esc closes one page, not those below it
-        button.click();
-}
-
-// Keys that go about the form are not the control's to drop, and neither is copying: it changes
-// nothing.
-bool passesControl(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab ||
-           key.matches(QKeySequence::Copy);
-}
-
 } // namespace
 
 QtDesktop::QtDesktop() = default;
@@ -214,7 +163,7 @@ void QtDesktop::focus(Control& control) {
     QWidget* const widget = widgetOf(control);
     if (!widget)
         return;
-    widget->setFocus(Qt::OtherFocusReason);
+    giveFocus(*widget);
     // Just behind a message box the window isn't in front again, and Qt tells of the move later.
     if (widget->isVisible() && widget->window()->focusWidget() == widget)
         toolkit::Screen.focusMoved(control);
@@ -292,10 +241,10 @@ bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
     if (!form)
         return false;
     if (!override)
-        return previewKey(key, *form);
-    if (!buttonNamed(*form, key))
+        return toolkit::pressKey(*form, keyStroke(key));
+    if (!toolkit::comesBeforeMenus(*form, keyStroke(key)))
         return false;
-    key.accept(); // a button's letter comes before the same letter of a menu
+    key.accept();
     return true;
 }
 
@@ -314,34 +263,6 @@ Form* QtDesktop::formWithKeys(const QObject* window) {
         return page ? page : formOf(widget);
     }
     return nullptr;
-}
-
-bool QtDesktop::previewKey(const QKeyEvent& key, Form& form) {
-    Control* const focused = controlOf(QApplication::focusWidget());
-    const auto keep = form.shared_from_this();
-    // A handler that unloads the form has used the key up.
-    const auto dropped = [&](int code) { return code == 0 || !form.loaded(); };
-    int code = keyCode(key);
-    const int shift = shiftMask(key);
-    form.previewKeyDown(code, shift);
-    if (dropped(code))
-        return true;
-    toolkit::CommandButton* const button = buttonFor(key, form, focused);
-    const bool told = focused && !button && !passesControl(key);
-    if (told)
-        focused->keyDown(code, shift);
-    if (dropped(code))
-        return true;
-    if (int ascii = keyAscii(key); ascii != 0) {
-        form.previewKeyPress(ascii);
-        if (told && form.loaded() && ascii != 0)
-            focused->keyPress(ascii);
-        if (dropped(ascii))
-            return true;
-    }
-    if (button)
-        press(*button, key);
-    return button != nullptr;
 }
 
 } // namespace desktop_qt

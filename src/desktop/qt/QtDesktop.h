@@ -13,7 +13,6 @@
 #include <string>
 
 class QApplication;
-class QKeyEvent;
 class QWidget;
 
 namespace desktop_qt {
@@ -54,8 +53,6 @@ private:
     FrameWindow* frame() const;
     // The form that the keys of the window go to, or nullptr.
     static toolkit::Form* formWithKeys(const QObject* window);
-    // Whether the key has been used up.
-    static bool previewKey(const QKeyEvent& key, toolkit::Form& form);
 
     // The command line is not read, by the library neither: all that it gets is the program's name.
     std::string program_;

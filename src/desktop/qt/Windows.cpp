@@ -2,6 +2,7 @@
 
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/Menu.h"
+#include "toolkit/Focus.h"
 
 #include <QAccessibleWidget>
 #include <QCloseEvent>
@@ -10,8 +11,6 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
-
-#include <algorithm>
 
 namespace desktop_qt {
 
@@ -30,60 +29,14 @@ void mark(QWidget* window, Form& form) {
     window->setProperty(kForm, QVariant::fromValue<void*>(&form));
 }
 
-void collect(const toolkit::Container& container, std::vector<toolkit::Control*>& all) {
-    for (toolkit::Control* control : container.controls()) {
-        all.push_back(control);
-        if (const auto* const inner = dynamic_cast<const toolkit::Container*>(control))
-            collect(*inner, all);
-    }
-}
-
-// The controls that Tab visits, by their TabIndex.
-std::vector<toolkit::Control*> tabOrder(Form& form) {
-    std::vector<toolkit::Control*> order;
-    collect(form, order);
-    std::erase_if(order, [](const toolkit::Control* control) {
-        const QWidget* const widget = widgetOf(*control);
-        return !widget || (widget->focusPolicy() & Qt::TabFocus) == 0;
-    });
-    std::stable_sort(order.begin(), order.end(),
-                     [](auto* a, auto* b) { return a->TabIndex < b->TabIndex; });
-    return order;
-}
-
-void applyTabOrder(Form& form) {
-    QWidget* before = nullptr;
-    for (const toolkit::Control* control : tabOrder(form))
-        QWidget::setTabOrder(std::exchange(before, widgetOf(*control)), widgetOf(*control));
-}
-
 // Top-level windows stand on the primary screen, which need not be the leftmost.
 QPoint screenOrigin() {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
 }
 
-// Of a group of options Tab visits the selected one.
-toolkit::Control* selectedOf(toolkit::Control& option) {
-    for (toolkit::Control* control : option.parent().controls())
-        if (const auto* const other = dynamic_cast<toolkit::OptionButton*>(control);
-            other && other->selected())
-            return control;
-    return &option;
-}
-
-// The control that had the keyboard, at first the first in the tab order; nullptr without any.
-toolkit::Control* focusTarget(Form& form) {
-    if (form.ActiveControl)
-        return form.ActiveControl;
-    for (toolkit::Control* control : tabOrder(form))
-        if (control->Visible && control->Enabled)
-            return dynamic_cast<toolkit::OptionButton*>(control) ? selectedOf(*control) : control;
-    return nullptr;
-}
-
 void focusForm(Form& form) {
-    if (const toolkit::Control* const target = focusTarget(form))
-        widgetOf(*target)->setFocus(Qt::ActiveWindowFocusReason);
+    if (const toolkit::Control* const target = toolkit::focusTarget(form))
+        giveFocus(*widgetOf(*target));
 }
 
 QWidget* makeContent(Form& form, QWidget* parent) {
@@ -97,10 +50,8 @@ QWidget* makeContent(Form& form, QWidget* parent) {
     }
     makePeers(form, content);
     for (const toolkit::Control* control : form.controls())
-        if (QWidget* const widget = widgetOf(*control))
-            if (!content->rect().contains(widget->pos()))
-                widget->setFocusPolicy(Qt::NoFocus); // the focus stays where it can be seen
-    applyTabOrder(form);
+        if (QWidget* const widget = widgetOf(*control); widget && !toolkit::standsOnForm(*control))
+            widget->setFocusPolicy(Qt::NoFocus);
     return content;
 }
 
@@ -152,7 +103,7 @@ public:
     void show() override {
         Form& form = form_;
         Form* front = &form;
-        if (toolkit::Control* const target = focusTarget(form)) {
+        if (toolkit::Control* const target = toolkit::focusTarget(form)) {
             toolkit::Screen.focusMoved(*target);
             front = toolkit::Screen.ActiveForm();
         }
