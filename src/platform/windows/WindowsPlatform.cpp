@@ -1,0 +1,34 @@
+#include "platform/Platform.h"
+#include "platform/StandardRandom.h"
+#include "platform/windows/WindowsClock.h"
+#include "platform/windows/WindowsFiles.h"
+#include "platform/windows/WindowsLocale.h"
+#include "platform/windows/WindowsMachine.h"
+#include "platform/windows/WindowsProcess.h"
+#include "platform/windows/WindowsSettings.h"
+#include "platform/windows/WindowsShell.h"
+
+namespace platform {
+
+namespace {
+
+struct Windows {
+    WindowsProcess process;
+    WindowsClock clock;
+    StandardRandom random;
+    WindowsSettings settings;
+    WindowsFiles files;
+    WindowsLocale locale;
+    WindowsMachine machine;
+    WindowsShell shell;
+};
+
+} // namespace
+
+Platform makePlatform(Help& help) {
+    static auto* const it = new Windows; // never given up: the process's last moments use it too
+    return {it->process, it->clock,   it->random, it->settings, it->files,
+            it->locale,  it->machine, it->shell,  help};
+}
+
+} // namespace platform

@@ -1,0 +1,78 @@
+#include "tests/support/FilesTest.h"
+
+namespace {
+
+using tests::Texts;
+
+struct Files : tests::FilesTest {};
+
+TEST_F(Files, LineEndsAtCarriageReturnAlone) {
+    const std::string zero("a\0b", 3), buffer(65535, 'x'), longLine(1 << 20, 'y');
+    const auto lines = [&](const std::string& text) {
+        files.create("text", text);
+        Texts result;
+        std::string line;
+        for (auto file = files.openForInput(files.path("text")); file->readLine(line);)
+            result.push_back(line);
+        return result;
+    };
+    EXPECT_EQ(lines(""), Texts());
+    EXPECT_EQ(lines("a\r\nb\rc"), Texts({"a", "b", "c"}));
+    EXPECT_EQ(lines("\n\r\n\n\r\r\n"), Texts({"\n", "\n", ""}));
+    EXPECT_EQ(lines(zero + "\r"), Texts({zero}));
+    EXPECT_EQ(lines(buffer + "\r\nb"), Texts({buffer, "b"})) << "split between two reads";
+    EXPECT_EQ(lines(longLine + "\r\n" + longLine), Texts({longLine, longLine}));
+}
+
+TEST_F(Files, FailureHasTheNumberThatItsCauseTells) {
+    tests::fs::create_directory(files.own("directory"));
+    files.create("file", "");
+    EXPECT_EQ(numbersOf("missing"), "53 76 53 0 0 ");
+    EXPECT_EQ(numbersOf("no/where"), "76 76 76 76 76 ");
+    EXPECT_EQ(numbersOf("file/where"), "76 76 76 76 76 ");
+    EXPECT_EQ(numbersOf("directory"), "75 0 75 75 75 ");
+}
+
+TEST_F(Files, AppendedLinesStandBehindWhatWasThere) {
+    for (const char* line : {"one", "two"}) {
+        auto file = files.openForAppend(files.path("log"));
+        file->writeLine(line);
+        file->close();
+    }
+    files.openForAppend(files.path("log"))->writeLine("given up");
+    EXPECT_EQ(files.content("log"), "one\r\ntwo\r\n");
+}
+
+TEST_F(Files, SavedFileKeepsTheContentBefore) {
+    for (const char* row : {"first", "second", "third", "fourth"}) {
+        const std::string before = dataFile();
+        saveRow(row);
+        EXPECT_NE(dataFile().find(row), std::string::npos);
+        EXPECT_EQ(files.content("Quorvanta.bak"), before);
+    }
+    EXPECT_EQ(boxes.takeReports(), Texts());
+}
+
+// The file that either system writes, for the other to read: the same bytes on both.
+TEST(DataFile, ComesBackByteForByteInEachLocale) {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"en_US", "1250.5", "7/25/2005 \x80\xE4\x81"},
+        {"de_DE", "1250,5", "25.07.2005 \x80\xE4\x81"},
+        {"ru_RU", "1250,5", "25 \xE8\xFE\xEB\xFF 2005 \xE3.\x98"}};
+    for (const auto& [locale, amount, date] : rows) {
+        const tests::RealFilesPlatform system(locale);
+        tests::ErrorBoxes boxes;
+        std::string text = tests::wholeFile();
+        text.replace(text.find("1250.5"), 6, amount).replace(text.find("270.5"), 5, "-7");
+        text.replace(text.find("Date:") + 5, text.npos, std::string(date) + "\r\n");
+        system.files.create("Quorvanta.txt", text);
+        quorvanta::cQuorvantaLite().ReadLottoFile();
+        EXPECT_EQ(std::tuple(quorvanta::gdblWin, quorvanta::gdblBalance), std::tuple(1250.5, -7));
+        quorvanta::cQuorvantaLite().WriteLottoFile();
+        const std::string written = system.files.content("Quorvanta.txt");
+        EXPECT_EQ(written.substr(written.find('\n')), text.substr(text.find('\n'))) << locale;
+        EXPECT_EQ(boxes.takeReports(), Texts());
+    }
+}
+
+} // namespace
