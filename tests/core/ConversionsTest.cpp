@@ -56,8 +56,9 @@ TEST_F(Conversions, NumbersHaveFifteenDigitsAndNoMoreThanTheyNeed) {
 }
 
 TEST_F(Conversions, AmountsAreGroupedAndRoundedAwayFromZero) {
-    EXPECT_EQ(textsOf(FormatMoney, {0, -749.5, -0.125, 1.005, -0.001, 0.005, 0.0049999999999999}),
-              "0.00 -749.50 -0.13 1.01 0.00 0.01 0.00 ");
+    EXPECT_EQ(
+        textsOf(FormatMoney, {0, -749.5, -0.125, 1.005, 0.196, -0.001, 0.005, 0.0049999999999999}),
+        "0.00 -749.50 -0.13 1.01 0.20 0.00 0.01 0.00 ");
     EXPECT_EQ(textsOf(FormatMoney, {123456.78, 999999.995, 12345678901234.56, 1e15}),
               "123,456.78 1,000,000.00 12,345,678,901,234.56 1,000,000,000,000,000.00 ");
     items[15] = ".";
@@ -132,15 +133,17 @@ TEST_F(Conversions, ADateIsReadInTheOrderOfItsLocale) {
     EXPECT_EQ(ReadDate("5. Jul 2005 Juli"), std::nullopt);
     items[31] = "dd.MM.yyyy"; // its day is no name of a day
     items[32] = "d 'l’'MMMM";
-    for (const auto& text : betweenBars("05/07/2005|5 l’juli 2005"))
+    items[43] = "Dienstag";
+    for (const auto& text : betweenBars("05/07/2005|5 l’juli 2005|Dienstag, 5.7.2005"))
         EXPECT_EQ(ReadDate(text), kDay) << text;
 }
 
 TEST_F(Conversions, WhatIsNoDateIsRefused) {
-    for (const auto& text : betweenBars(
-             "|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/5-2005|6:42|"
-             "7.5|7,5|7 5|7/5/2005 24:00|7/5/2005 6|7/5/2005,6:02 PM|7/5/2005 6:60|7/5/2005 PM|"
-             "7/5/2005 13:00 PM|7/5/2005/1|7/5/99/1|7x5x2005|-7/5/2005|1e3|1/2/3/4/5/6/7"))
+    for (const auto& text :
+         betweenBars("|7|yesterday|25/7/2005|2/29/2005|0/5/2005|7/5/20050|7//5/2005|7/5-2005|6:42|"
+                     "7.5|7,5|7 5|7/5/2005 24:00|7/5/2005 6|7/5/2005,6:02 "
+                     "PM|7/5/2005T18:02|7/5/2005 6:60|7/5/2005 PM|"
+                     "7/5/2005 13:00 PM|7/5/2005/1|7/5/99/1|7x5x2005|-7/5/2005|1e3|1/2/3/4/5/6/7"))
         EXPECT_EQ(ReadDate(text), std::nullopt) << text;
 }
 

@@ -150,9 +150,22 @@ TEST_F(MessagesTest, EachTrapReportsUnderItsOwnLabel) {
         routine();
         EXPECT_EQ(desk.takeReports(), reports);
     }
+    EXPECT_NE(os.files.content[kLog].find("\"WriteLottoFile\"\r\n\"Number: 76\"\r\n"),
+              std::string::npos);
     ReportUntrapped(platform::RuntimeError(platform::Overflow), "frmMain");
     EXPECT_EQ(desk.boxes[0].icon, Icon::Critical);
     EXPECT_EQ(desk.takeBoxes(), Texts{"An error has occured: 6\r\nOverflow\r\nfrmMain"});
+}
+
+TEST_F(MessagesTest, EachFailureHasItsDescription) {
+    std::string all;
+    for (const int number : {5, 6, 7, 9, 13, 53, 57, 61, 62, 70, 75, 76, 340, 381, 482, 1})
+        all += platform::describe(static_cast<platform::Failure>(number)) + std::string("|");
+    EXPECT_EQ(all, "Invalid procedure call or argument|Overflow|Out of memory|Subscript out of "
+                   "range|Type mismatch|File not found|Device I/O error|Disk full|Input past end "
+                   "of file|Permission denied|Path/File access error|Path not found|Control array "
+                   "element doesn't exist|Invalid property array index|Printer error|"
+                   "Application-defined or object-defined error|");
 }
 
 // What a routine of three steps has done, its second one failing until it has been tried twice.
