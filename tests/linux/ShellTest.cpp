@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -38,6 +40,32 @@ TEST_F(Shell, GivesTheOpenerTheAddressAsItStandsAndLeavesItAlone) {
     EXPECT_EQ(files.content("noted"), "http://" + address + "|");
     EXPECT_EQ(testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
+}
+
+TEST_F(Shell, TellsOfAnOpenerThatFailsAtOnceAndWaitsForNoOther) {
+    struct {
+        const char* script;
+        bool opened;
+        int least, most; // milliseconds
+    } const openers[]{{"exit 0", true, 0, 400},
+                      {"exit 3", false, 0, 400},
+                      {"kill -9 $$", false, 0, 400},
+                      {"/bin/sleep .2; exit 4", false, 200, 490},
+                      {"/bin/sleep 3; exit 4", true, 490, 2500},
+                      {"exec /bin/sleep 3 &", true, 0, 400}};
+    const int ours =
+        ::open(files.directory.c_str(), O_RDONLY); // not for the opener, though not CLOEXEC
+    for (const auto& it : openers) {
+        opener("#!/bin/sh\n[ -e /proc/self/fd/" + std::to_string(ours) + " ] && exit 5\n" +
+               it.script + "\n");
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(open("https://a.example/") > platform::kShellFailure, it.opened) << it.script;
+        const auto took = (std::chrono::steady_clock::now() - start) / std::chrono::milliseconds(1);
+        EXPECT_GE(took, it.least) << it.script;
+        EXPECT_LE(took, it.most) << it.script;
+        EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
+    }
+    ::close(ours);
 }
 
 TEST_F(Shell, TellsWhyNothingWasOpened) {

@@ -2,6 +2,7 @@
 
 #include "platform/Addresses.h"
 #include "platform/RuntimeError.h"
+#include "platform/linux/Opener.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,11 +33,9 @@ constexpr Calculator kCalculators[] = {
 
 // Whether the program came to run. It has a session of its own and no terminal, and its end is
 // nobody's concern: the process between the two is gone at once.
-bool startDetached(const QString& program, const QStringList& arguments, const QString& directory) {
+bool startDetached(const QString& program) {
     QProcess process;
     process.setProgram(program);
-    process.setArguments(arguments);
-    process.setWorkingDirectory(directory);
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
@@ -58,9 +57,16 @@ int LinuxShell::ShellExecuteA(std::uintptr_t /*window*/, const char* operation, 
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (opener.isEmpty())
         return kNoProgram;
-    if (startDetached(opener, {QString::fromStdString(address)}, where))
+    switch (open(opener.toStdString(), address, where.toStdString())) {
+    case 0:
         return kStarted;
-    return QFileInfo(opener).isExecutable() ? kNotFound : kDenied;
+    case 126:
+        return kDenied;
+    case 127:
+        return kNotFound;
+    default:
+        return kNoProgram;
+    }
 }
 
 std::vector<std::string> LinuxShell::calculators() const {
@@ -78,7 +84,7 @@ std::vector<std::string> LinuxShell::calculators() const {
 
 void LinuxShell::start(const std::string& path) {
     const QString program = QString::fromStdString(path);
-    if (startDetached(program, {}, {}))
+    if (startDetached(program))
         return;
     throw RuntimeError(QFileInfo::exists(program) ? PermissionDenied : FileNotFound);
 }

@@ -6,8 +6,8 @@ namespace platform {
 
 class LinuxShell final : public Shell {
 public:
-    // Through the desktop's opener. The address is one
-    // argument of it: no command interpreter of ours reads it.
+    // Through the desktop's opener. The address is one argument of it: no command interpreter of
+    // ours reads it. An opener that ends with a failure within half a second has opened nothing.
     int ShellExecuteA(std::uintptr_t window, const char* operation, const char* file,
                       const char* parameters, const char* directory, int show) override;
 
