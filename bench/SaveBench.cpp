@@ -1,5 +1,5 @@
-// The time of saving the data file against that of writing and forcing the same bytes with the
-// plain system calls, in turns. Usage: save_bench [turns] [directory]
+// The time of saving the data file against that of putting the same bytes in its place with the
+// plain system calls, as durably, in turns. Usage: save_bench [turns] [directory]
 #include "storage/cQuorvantaLite.h"
 #include "tests/support/DataFile.h"
 #include "tests/support/RealFiles.h"
@@ -29,11 +29,17 @@ void must(bool done) {
         throw std::runtime_error("a system call failed");
 }
 
-void writeAndForce(const std::string& path, const std::string& text) {
-    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+void writeAndForce(const std::string& path, const std::string& text, int ifThere) {
+    const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | ifThere, 0666);
     must(::write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size()));
     must(::fsync(fd) == 0);
     must(::close(fd) == 0);
+}
+
+void putInPlace(const std::string& fresh, const std::string& path, const std::string& directory) {
+    must(::rename(fresh.c_str(), path.c_str()) == 0);
+    const int fd = ::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    must(::fsync(fd) == 0 && ::close(fd) == 0);
 }
 
 struct Contender {
@@ -67,28 +73,17 @@ int main(int count, char** arguments) {
     const std::string text = tests::wholeFile();
     system.files.create("Quorvanta.txt", text);
     quorvanta::cQuorvantaLite().ReadLottoFile();
-    const auto path = [&](const char* name, int turn) {
-        return system.files.path(name + std::to_string(turn));
-    };
+    const auto path = [&](const char* name) { return system.files.path(name); };
 
     Contender contenders[] = {
-        {"write and force a new file",
-         [&](int turn) { writeAndForce(path("plain", turn), text); },
-         {}},
-        {"write and force over a file", [&](int) { writeAndForce(path("over", 0), text); }, {}},
-        {"write and force a new file, rename it over another",
-         [&](int turn) {
-             writeAndForce(path("new", turn), text);
-             must(::rename(path("new", turn).c_str(), path("renamed", 0).c_str()) == 0);
+        {"write aside, force, rename, force the directory",
+         [&](int) {
+             writeAndForce(path("aside"), text, O_EXCL);
+             putInPlace(path("aside"), path("plain"), system.files.directory);
          },
          {}},
-        {"the same, and force the directory",
-         [&](int turn) {
-             writeAndForce(path("newer", turn), text);
-             must(::rename(path("newer", turn).c_str(), path("renamed", 1).c_str()) == 0);
-             const int fd = ::open(system.files.directory.c_str(), O_RDONLY | O_DIRECTORY);
-             must(::fsync(fd) == 0 && ::close(fd) == 0);
-         },
+        {"write a new file and force it",
+         [&](int turn) { writeAndForce(path("new") + std::to_string(turn), text, O_EXCL); },
          {}},
         {"save",
          [&](int turn) {

@@ -70,6 +70,15 @@ void copy(const std::string& from, const std::string& to) {
     must(::fsync(target.get()) == 0, to);
 }
 
+// The names in the directory of `path` are on the disk behind it. Who may write there and not read
+// leaves that to the system, and some file systems have nothing to be forced.
+void forceDirectory(const std::string& path) {
+    const Descriptor directory = Descriptor::open(directoryOf(path), O_RDONLY | O_DIRECTORY);
+    if (!directory && errno == EACCES)
+        return;
+    must(directory && (::fsync(directory.get()) == 0 || errno == EINVAL), path);
+}
+
 } // namespace
 
 LinuxReplacement::LinuxReplacement(const std::string& path, const std::string& backup)
@@ -167,20 +176,25 @@ void LinuxReplacement::putInPlace() {
     }
     // There is no old content, or the file system doesn't let two files change names.
     struct stat old;
-    if (::lstat(path_.c_str(), &old) == 0)
+    if (!oldKept_ && ::lstat(path_.c_str(), &old) == 0)
         linkOld();
+    oldKept_ = true; // a repeated attempt can find the new content there
     must(rename(spare_, path_), path_);
     spareSpoiled_ = false;
+    forceDirectory(path_);
 }
 
 // The old content bears the spare's name now, and goes to the backup's.
 void LinuxReplacement::keepOld() {
-    if (swapNames(spare_, backup_) || (errno == ENOENT && rename(spare_, backup_)))
-        return;
+    const bool swapped = swapNames(spare_, backup_);
+    const bool moved = !swapped && errno == ENOENT && rename(spare_, backup_);
     try {
-        copy(spare_, backup_); // a backup on another file system
+        if (!swapped && !moved)
+            copy(spare_, backup_); // a backup on another file system
+        forceDirectory(path_);
     } catch (const RuntimeError&) {
-        spareSpoiled_ = swapNames(spare_, path_);
+        const bool back = swapped ? swapNames(spare_, backup_) : !moved || rename(backup_, spare_);
+        spareSpoiled_ = back && swapNames(spare_, path_);
         throw;
     }
 }

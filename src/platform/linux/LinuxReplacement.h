@@ -3,12 +3,9 @@
 // The new content is written into a spare file beside the old one and forced to the disk. Then the
 // two change names in one step of the system, and the old content changes names with the backup.
 // What was the backup is the spare of the next time: no file is made or freed on the way, which
-// costs less time than a new file would. The spare is the content of two replacements ago and not
-// of one, so the change of names that took its file out of use is on the disk, forced together
-// with the replacement between, before its bytes are written over.
-//
-// The directory isn't forced to the disk: that would cost half the time again, and a power failure
-// in the seconds before the system does it leaves the old content whole.
+// costs less time than a new file would. At last the directory is forced, so that a power
+// failure right behind a replacement doesn't bring back the old names. Hence the file whose bytes
+// the next replacement writes over bears no other name on the disk than the spare's.
 #pragma once
 
 #include "platform/Files.h"
@@ -43,6 +40,7 @@ private:
     Descriptor file_;
     bool fromOld_ = true;
     bool spareSpoiled_ = false; // it holds nothing whole
+    bool oldKept_ = false;      // the backup has the old content already
 };
 
 } // namespace platform
