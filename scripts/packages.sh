@@ -7,6 +7,7 @@ display_packages=(xvfb openbox imagemagick x11-utils xdotool fonts-dejavu-core)
 test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     printer-driver-cups-pdf poppler-utils desktop-file-utils appstream libglib2.0-bin
     gtk-update-icon-cache galculator at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
+    weston qt6-wayland libsm6 libice6
     "${display_packages[@]}")
 # The cross compiler, Wine to run what it makes, and what its windows need.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine

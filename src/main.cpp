@@ -8,6 +8,8 @@
 
 int main() {
     const auto desktop = desktop::makeDesktop();
+    desktop->sessionEnds = quorvanta::EndRunForSystem;
+    desktop->displayEnds = quorvanta::EndRunWithoutDisplay;
     toolkit::install(desktop.get());
     const platform::Platform all = platform::makePlatform(*desktop);
     platform::install(&all);
@@ -21,7 +23,6 @@ int main() {
 
     quorvanta::Main();
 
-    desktop->sessionEnds = quorvanta::EndRunForSystem;
     all.process.whenAskedToEnd(desktop->waker(quorvanta::EndRunForSystem));
     return desktop->run();
 }

@@ -14,13 +14,43 @@ using toolkit::App;
 
 namespace {
 constexpr const char* kHelpFile = "quorvantalite.hlp";
-bool ending = false; // EndApp runs
+
+// How far the run is. What has not been read whole is not to be written: a box about a line of the
+// file can stand for long, and the frame come up beside it.
+enum class Stage { Reading, Running, Saving, Leaving };
+Stage stage = Stage::Running;
+
+bool isEnding() {
+    return stage == Stage::Saving || stage == Stage::Leaving;
+}
+
+void save() {
+    if (stage == Stage::Running) {
+        stage = Stage::Saving;
+        failuresOff([](auto step) { step([] { cQuorvantaLite().WriteLottoFile(); }); });
+    }
+    stage = Stage::Leaving;
+}
+
+// Brings the stage back that was: the process of a test goes on behind its end.
+class StageKept {
+public:
+    StageKept() = default;
+    explicit StageKept(Stage now) { stage = now; }
+    StageKept(const StageKept&) = delete;
+    ~StageKept() { stage = before_; }
+
+private:
+    Stage before_ = stage;
+};
+
 } // namespace
 
 void Main() {
     toolkit::Form::untrapped = [](const toolkit::Form& form, const platform::RuntimeError& error) {
         ReportUntrapped(error, form.name());
     };
+    const StageKept reading(Stage::Reading);
     trapped("Sub Main", [&](auto step) {
         cLocalSettings local;
         cQuorvantaLite store;
@@ -39,16 +69,12 @@ void Main() {
 
 void EndApp(toolkit::Form& frm) {
     // Unloading the frame asks its QueryUnload, which ends the run in its turn.
-    if (ending)
+    if (isEnding())
         return;
-    struct Guard {
-        Guard() { ending = true; }
-        ~Guard() { ending = false; }
-    } guard;
-
+    const StageKept kept;
     const auto keep = frm.shared_from_this(); // it is among the forms that go
+    save();
     failuresOff([&](auto step) {
-        step([&] { cQuorvantaLite().WriteLottoFile(); });
         for (int i = toolkit::Forms.Count() - 1; i >= 0; --i)
             step([&] { toolkit::Forms(i).Unload(); });
         step([&] { frm.Unload(); });
@@ -57,10 +83,21 @@ void EndApp(toolkit::Form& frm) {
 }
 
 void EndRunForSystem() {
-    if (ending)
+    if (isEnding())
         return; // the end that runs may be asking what to do about a save that fails
     if (MDIForm1* const frame = MDIForm1::ifLoaded())
         frame->Unload(toolkit::AppWindows);
+    const StageKept kept;
+    save();
+    platform::current().process.end();
+}
+
+void EndRunWithoutDisplay() {
+    toolkit::install(nullptr); // whose boxes answer themselves
+    const StageKept kept;
+    if (stage == Stage::Saving)
+        stage = Stage::Running; // it stopped at a box, which nobody will answer
+    save();
     platform::current().process.end();
 }
 

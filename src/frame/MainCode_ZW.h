@@ -28,9 +28,13 @@ void WriteSystemData();
 void EndApp(toolkit::Form& frm);
 
 // The session ends, or the system asks the program to: closes the frame without a question, also
-// while one is open. Without a frame there is nothing to save yet, and the process just ends. Does
-// nothing while EndApp runs.
+// while one is open. While the splash stands there is no frame, and the data file is just written.
+// Does nothing while a run that ends is being saved.
 void EndRunForSystem();
+
+// The display has gone: writes the data file, unless that has been done, and ends the process. No
+// box can be shown, so a save that fails is given up, and the old file stands.
+void EndRunWithoutDisplay();
 
 // Places a top-level form in the middle of the screen. A form wider than the screen gets a negative
 // Left.

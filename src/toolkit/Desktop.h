@@ -59,8 +59,12 @@ public:
     // Gives a call that has the event loop run `event`, once. It may be made at any moment, from
     // another thread or within the handler of a signal too.
     virtual std::function<void()> waker(std::function<void()> event);
-    // Called from the event loop when the user's session ends.
+    // Called from the event loop when the user's session ends for good. Neither a checkpoint of the
+    // session nor a logout that is called off again calls it.
     std::function<void()> sessionEnds = [] {};
+    // Called when the display has gone, in the midst of whatever runs. The windows went with it:
+    // none may be touched any more. The process ends behind the call.
+    std::function<void()> displayEnds = [] {};
     // No form is left: the event loop ends with the event that runs, unless that shows another.
     virtual void endLoop() {}
 };

@@ -137,4 +137,70 @@ TEST_F(FrameTest, TheSystemDoesNotCutOffTheQuestionAboutASaveThatFails) {
     EXPECT_FALSE(data.empty());
 }
 
+TEST_F(FrameTest, ARunThatEndsWhileTheSplashStandsIsSavedOnceItsDataIsRead) {
+    for (const auto& end : {EndRunForSystem, EndRunWithoutDisplay}) {
+        data = "[Win/Loss]\r\nWin:\r\nLoss:5\r\n";
+        const std::string whole = data;
+        desk.onBox = [&] { // about the first line, while the splash makes way for the frame
+            frmSplash::the().Timer1.fire();
+            end();
+        };
+        EXPECT_THROW(Main(), ProcessEnded);
+        EXPECT_EQ(data, whole);
+        toolkit::install(&desk);
+        toolkit::Form::dropAll();
+        desk.onBox = nullptr;
+        desk.answers = {toolkit::Ignore};
+        Main();
+        EXPECT_THROW(end(), ProcessEnded);
+        EXPECT_NE(data.find("Loss:5\r\n"), std::string::npos);
+        EXPECT_NE(data, whole);
+        toolkit::install(&desk);
+        toolkit::Form::dropAll();
+    }
+    desk.boxes.clear();
+}
+
+TEST_F(FrameTest, WithoutADisplayTheRunIsSavedOnceAndNothingIsAskedOrUnloaded) {
+    bool full = false;
+    os.files.fault = [&](const std::string& operation, const std::string& path) {
+        const bool save = operation == "close" && path == "/app/Quorvanta.txt";
+        saves += save ? 1 : 0;
+        if (full && save)
+            throw platform::RuntimeError(platform::DiskFull);
+    };
+    const auto during = [&](const std::function<void()>& ask) {
+        desk.onBox = [&] {
+            full = false;
+            EndRunWithoutDisplay();
+        };
+        ask();
+    };
+    struct {
+        std::function<void()> end;
+        bool full;
+        std::size_t boxes;
+        int saves;
+    } const moments[]{{EndRunWithoutDisplay, false, 0, 1},
+                      {EndRunWithoutDisplay, true, 0, 1},
+                      {[&] { during([] { press("exit"); }); }, false, 1, 1},
+                      {[&] { during(EndRunForSystem); }, true, 1, 2}};
+    for (const auto& moment : moments) {
+        data = "old";
+        full = moment.full;
+        frame();
+        press("favorites");
+        gstrFavorites[1] = "7;";
+        EXPECT_THROW(moment.end(), ProcessEnded);
+        EXPECT_EQ(data.find("\r\n1.7;\r\n") == std::string::npos, full);
+        EXPECT_EQ(data == "old", full);
+        EXPECT_EQ(desk.takeBoxes().size(), moment.boxes);
+        EXPECT_EQ(std::exchange(saves, 0), moment.saves);
+        EXPECT_EQ(toolkit::Forms.Count(), 2);
+        desk.onBox = nullptr;
+        toolkit::install(&desk);
+        toolkit::Form::dropAll();
+    }
+}
+
 } // namespace

@@ -28,6 +28,7 @@ struct {
     Names refused;    // calls that always fail, and don't count
     int calls = 0;
     bool unforced = false; // what was written last is not forced to the disk
+    bool renamed = false;  // nor are the names changed since
 } fault;
 
 bool meetsFault() {
@@ -43,6 +44,7 @@ template <class Call, class... Arguments>
 auto faulty(std::string_view name, Call call, Arguments... arguments) {
     EXPECT_FALSE(fault.unforced && name.starts_with("rename"));
     fault.unforced = name == "write" || (fault.unforced && name != "fsync");
+    fault.renamed = name.starts_with("rename") || (fault.renamed && name != "fsync");
     const bool refused = fault.refused.contains(name);
     if (refused)
         errno = EACCES;
@@ -130,10 +132,15 @@ struct Trial {
         fault.position = 0;
         return fault.calls >= position;
     }
-    bool save(int position = 0, int error = 0) const {
+    bool save(int position = 0, int error = 0, bool displayGone = false) {
         tests::stored() = fresh;
-        return underFault([] { cQuorvantaLite().WriteLottoFile(); }, position, error);
+        const bool reached = underFault(
+            displayGone ? saveWithoutDisplay : [] { cQuorvantaLite().WriteLottoFile(); }, position,
+            error);
+        toolkit::install(&boxes);
+        return reached;
     }
+    static void saveWithoutDisplay() { EXPECT_THROW(EndRunWithoutDisplay(), tests::ProcessEnded); }
     static tests::StoredValues read() {
         tests::forgetStored();
         cQuorvantaLite().ReadLottoFile();
@@ -146,17 +153,19 @@ struct Trial {
 };
 
 TEST(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
-    for (const Start& start : kStarts) {
+    for (int i = 0; i < 2 * static_cast<int>(std::size(kStarts)); ++i) {
+        const Start& start = kStarts[i / 2];
         int position = 0;
         for (int status = 1; status != 0;) {
             SCOPED_TRACE(start.name + ", call " + std::to_string(++position));
             Trial trial(start);
             const pid_t child = ::fork();
             if (child == 0)
-                ::_exit(trial.save(position) ? 1 : 0);
+                ::_exit(trial.save(position, 0, i % 2 == 1) ? 1 : 0);
             ASSERT_EQ(::waitpid(child, &status, 0), child);
             EXPECT_TRUE(trial.isOldOrFresh());
             trial.save();
+            EXPECT_FALSE(fault.renamed) << "a power cut would bring the old names back";
             EXPECT_EQ(trial.read(), trial.fresh);
             EXPECT_TRUE(trial.boxes.boxes.empty());
         }
@@ -164,6 +173,7 @@ TEST(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
     }
 }
 
+// An answer of 0: the display has gone, and nobody can be asked.
 void saveFailingAtEachCall(const Start& start, int answer, int error, const std::string& number,
                            bool deletable) {
     int position = 0;
@@ -177,8 +187,9 @@ void saveFailingAtEachCall(const Start& start, int answer, int error, const std:
             trial.boxes.last = toolkit::Ignore;
             fault.refused.insert("faccessat");
         }
-        reached = trial.save(position, error);
+        reached = trial.save(position, error, answer == 0);
         const auto reports = trial.boxes.takeReports();
+        EXPECT_TRUE(answer != 0 || reports.empty());
         for (const auto& it : reports)
             EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel ||
                         (!deletable && it == "70" + kLabel))
@@ -186,7 +197,7 @@ void saveFailingAtEachCall(const Start& start, int answer, int error, const std:
         EXPECT_TRUE(trial.isOldOrFresh());
         if (!deletable) {
             EXPECT_TRUE(trial.system.files.content(kFile).starts_with(tests::wholeFile()));
-        } else if (reports.empty() || answer == toolkit::Retry) {
+        } else if ((reports.empty() && answer != 0) || answer == toolkit::Retry) {
             EXPECT_EQ(trial.read(), trial.fresh);
         }
     }
@@ -196,11 +207,12 @@ void saveFailingAtEachCall(const Start& start, int answer, int error, const std:
 // Also behind an old content that can't be deleted, where the user ignores that.
 TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
     for (const Start& start : kStarts)
-        for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore})
+        for (const int answer :
+             {toolkit::Abort, toolkit::Retry, toolkit::Ignore, toolkit::Button{}})
             for (const auto& [error, number] :
                  {std::pair(ENOSPC, "61"), {EIO, "57"}, {EACCES, "70"}, {ENOENT, "76"}}) {
                 saveFailingAtEachCall(start, answer, error, number, true);
-                if (error != ENOENT && start.files.contains(kFile))
+                if (answer != 0 && error != ENOENT && start.files.contains(kFile))
                     saveFailingAtEachCall(start, answer, error, number, false);
             }
 }

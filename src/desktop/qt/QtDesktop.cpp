@@ -74,8 +74,6 @@ const char* label(toolkit::Button button) {
 
 QtDesktop::QtDesktop() = default;
 
-QtDesktop::~QtDesktop() = default;
-
 QApplication& QtDesktop::application() {
     if (application_)
         return *application_;
@@ -99,7 +97,7 @@ QApplication& QtDesktop::application() {
             toolkit::Screen.focusMoved(*control);
         }
     });
-    watchSession();
+    watchDisplay();
     return *application_;
 }
 
@@ -233,6 +231,10 @@ std::unique_ptr<toolkit::PrinterDevice> QtDesktop::newPrinterDevice() {
 // Every key goes through the window before the widget with the focus, once. Keys of a message box
 // or an opened menu go to windows of their own.
 bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Quit && watched == application_.get()) {
+        sessionEnds(); // Qt would close the windows, as the user does, with a question
+        return true;
+    }
     const bool override = event->type() == QEvent::ShortcutOverride;
     if ((!override && event->type() != QEvent::KeyPress) || !watched->isWindowType())
         return QObject::eventFilter(watched, event);

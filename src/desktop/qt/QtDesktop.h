@@ -48,7 +48,7 @@ protected:
 
 private:
     QApplication& application();
-    void watchSession();
+    void watchDisplay();
     void showFocusOn(const toolkit::Control* control);
     FrameWindow* frame() const;
     // The form that the keys of the window go to, or nullptr.

@@ -3,12 +3,67 @@
 #include "toolkit/Form.h"
 
 #include <QApplication>
-#include <QSessionManager>
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <cstdlib>
+
+#include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/eventfd.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+namespace {
+
+constexpr unsigned kLastMoments = 10; // seconds
+
+pid_t displayUser = 0; // the process that has the windows; 0 without any
+
+// A child that could not start another program isn't meant.
+void tellDisplayEnds() {
+    if (displayUser == ::getpid() && ::gettid() != displayUser) {
+        ::sleep(kLastMoments); // a thread of Qt's: the program's own learns of it right now too
+    } else if (displayUser == ::getpid()) {
+        displayUser = 0;
+        toolkit::desktop().displayEnds();
+    }
+}
+
+// The library of session management would end the process with a manager that is killed, which is
+// no end of the session. Qt has it loaded where it speaks to one.
+void outliveSessionManager() {
+    void* const library = ::dlopen("libICE.so.6", RTLD_LAZY | RTLD_NOLOAD);
+    if (!library)
+        return;
+    using Handler = void (*)(void* connection);
+    static const auto number =
+        reinterpret_cast<int (*)(void*)>(::dlsym(library, "IceConnectionNumber"));
+    const auto setHandler =
+        reinterpret_cast<Handler (*)(Handler)>(::dlsym(library, "IceSetIOErrorHandler"));
+    if (number && setHandler)
+        setHandler([](void* connection) {
+            // Qt goes on listening there: to one that never has anything to tell.
+            ::dup3(::eventfd(0, EFD_CLOEXEC), number(connection), O_CLOEXEC);
+        });
+}
+
+} // namespace
+
+// Where the display goes, Qt's part for X11 calls exit, that for Wayland _exit, and neither tells
+// the program before. The libraries find these two first.
+extern "C" {
+void exit(int status) noexcept {
+    tellDisplayEnds();
+    reinterpret_cast<void (*)(int)>(::dlsym(RTLD_NEXT, "exit"))(status);
+    std::abort();
+}
+void _exit(int status) {
+    tellDisplayEnds();
+    ::syscall(SYS_exit_group, status); // also in a child, which can't look anything up
+    std::abort();
+}
+}
 
 namespace desktop_qt {
 
@@ -22,7 +77,7 @@ void QtDesktop::endLoop() {
     // Queued, since the event that runs may show another form.
     QTimer::singleShot(0, this, [] {
         if (toolkit::Forms.Count() == 0)
-            QCoreApplication::quit();
+            QCoreApplication::exit();
     });
 }
 
@@ -38,8 +93,13 @@ std::function<void()> QtDesktop::waker(std::function<void()> event) {
     return [calls] { ::eventfd_write(calls, 1); };
 }
 
-void QtDesktop::watchSession() {
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this] { sessionEnds(); });
+QtDesktop::~QtDesktop() {
+    displayUser = 0;
+}
+
+void QtDesktop::watchDisplay() {
+    displayUser = ::getpid();
+    outliveSessionManager();
 }
 
 } // namespace desktop_qt

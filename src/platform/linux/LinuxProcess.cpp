@@ -52,7 +52,7 @@ bool LinuxProcess::prevInstance(const std::string& directory) {
 
 void LinuxProcess::end() {
     std::fflush(nullptr);
-    _exit(0);
+    _Exit(0);
 }
 
 void LinuxProcess::whenAskedToEnd(std::function<void()> wanted) {

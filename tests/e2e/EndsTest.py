@@ -1,0 +1,130 @@
+"""How a run begins and ends that its user doesn't end: by its display, by its session, twice."""
+
+import contextlib
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import time
+
+from desk import APP, FRAME, PLACE, Page, Program, Road, in_front, system, until
+
+MANAGER = [sys.executable, os.path.dirname(__file__) + "/session_manager.py"]
+ROW = "1.7;8;;;;;"
+
+
+class Display:
+    """A display that can be ended. No mouse and no keys come there from outside."""
+
+    def __init__(self, kind):
+        quiet = {"stdout": subprocess.PIPE, "stderr": subprocess.DEVNULL}
+        if kind == "X11":
+            self.server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-nolisten", "tcp"], **quiet)
+            name = ":" + self.server.stdout.readline().decode().strip()
+            self.environment = {"DISPLAY": name, "QT_QPA_PLATFORM": "xcb"}
+        else:
+            self.server = subprocess.Popen(["weston", "--backend=headless-backend.so",
+                                            "--socket=ends", "--no-config"], **quiet)
+            self.environment = {"WAYLAND_DISPLAY": "ends", "QT_QPA_PLATFORM": "wayland"}
+            until(lambda: os.path.exists(PLACE + "/run/ends"), "the compositor")
+
+    def end(self):
+        self.server.kill()
+        self.server.communicate()
+
+
+def window(program, title):
+    return until(lambda: next(w for w in program.windows() if w.name == title), title)
+
+
+def file_row(program):
+    """Files a favorite row, which is in no file yet."""
+    frame = window(program, FRAME)
+    Page(frame)["push button", "Favorites"].act()
+    page = Page(until(lambda: system.pages(frame)[0], "the page"))
+    for key in ("7", "8", "File to Grid"):
+        page["push button", key].act()
+    until(lambda: page.row(1, 2) == ["7", "8"], "the row")
+
+
+class Ends(Road):
+    def test_the_rows_outlast_the_display(self):
+        for kind in ("X11", "Wayland"):
+            for moment in ("splash", "page", "box"):
+                with self.subTest(display=kind, moment=moment):
+                    self.write_data("[Favorites]", "2.5;6;;;;;")
+                    display = Display(kind)
+                    program = self.run_program(leave_splash=False, **display.environment)
+                    if moment == "splash":
+                        program.splash()
+                        until(lambda: os.stat(APP + "DebugLog.TXT").st_mtime > 0, "the read")
+                        time.sleep(1)
+                    else:
+                        file_row(program)
+                    if moment == "box":
+                        with contextlib.suppress(*system.GONE):  # it answers behind the box
+                            Page(window(program, FRAME))["push button", "Exit"].act()
+                        until(lambda: any(w.role == "alert" for w in program.windows()), "the box")
+                    display.end()
+                    self.assertEqual(program.process.wait(5), 0)
+                    self.assertEqual(len(self.data()), 35)  # written anew, and whole
+                    self.assertEqual(self.data()[17:19],
+                                     ["1." if moment == "splash" else ROW, "2.5;6;;;;;"])
+
+    def test_only_the_sessions_real_end_ends_the_run(self):
+        for calls, ends in ((["checkpoint", "logout", "cancel", "die"], True),
+                            (["logout", "kill"], False), (["kill"], False)):
+            with self.subTest(calls=calls):
+                self.write_data("[Favorites]")
+                manager = subprocess.Popen(MANAGER, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                           stderr=subprocess.DEVNULL, text=True)
+                self.addCleanup(manager.communicate)
+                program = self.run_program(SESSION_MANAGER=manager.stdout.readline().strip())
+                self.assertEqual(manager.stdout.readline(), "done 1\n")  # to its registration
+                file_row(program)
+                for call in calls:
+                    if call == "kill":
+                        manager.kill()
+                    else:
+                        print(call, file=manager.stdin, flush=True)
+                    if call in ("checkpoint", "logout"):
+                        self.assertEqual(manager.stdout.readline(), "done 1\n")
+                    if call != "die":
+                        time.sleep(0.5)
+                        self.assertEqual((program.process.poll(), len(self.data())), (None, 3))
+                        before = program.used()
+                        time.sleep(0.5)
+                        self.assertLess(program.used() - before, 0.1)  # it doesn't spin
+                        program.tool("Bankroll" if call == "cancel" else "6 from 49")
+                        program.page("Bankroll" if call == "cancel" else "6 From 49")
+                if not ends:
+                    program.end()
+                self.assertEqual((program.process.wait(5), self.data()[17]), (0, ROW))
+
+    def test_one_run_in_a_folder_whoever_starts_it_and_no_argument_tells_it_anything(self):
+        newer, link = APP + "newer", PLACE + "/link"
+        shutil.copy(APP + "quorvanta", newer)
+        os.symlink(APP, link)
+        program = Program.__new__(Program)
+        program.process = subprocess.Popen([APP + "quorvanta", "-qwindowtitle", "HELLO", "-style",
+                                            "windows", "-geometry", "300x200"])
+        self.addCleanup(program.kill)
+        until(lambda: in_front(FRAME), "the frame")
+        self.assertGreater(window(program, FRAME).box[2], 700)
+        os.replace(newer, APP + "quorvanta")  # as a package unpacked over it does
+
+        def state():
+            return {str(path): path.stat().st_mtime_ns
+                    for top in (APP, PLACE + "/home", PLACE + "/run")
+                    for path in pathlib.Path(top).iterdir()}
+        before = state()
+        for start, without, with_ in ((APP, "XDG_RUNTIME_DIR", {}), (APP, "HOME", {}),
+                                      (APP, "DISPLAY", {"HOME": "/nowhere"}), (link + "/", "", {})):
+            environment = {name: value for name, value in os.environ.items() if name != without}
+            self.assertEqual(subprocess.run([start + "quorvanta"], env=environment | with_,
+                                            timeout=5, check=False).returncode, 0)
+            self.assertEqual(state(), before)
+        file_row(program)
+        program.end_session()
+        self.assertEqual((program.process.wait(10), self.data()[17]), (0, ROW))
