@@ -1,0 +1,214 @@
+#include "desktop/win32/ControlWindow.h"
+
+#include "toolkit/Focus.h"
+
+namespace desktop_win32 {
+
+using toolkit::Control;
+using toolkit::Prop;
+
+namespace {
+
+class WindowPeer final : public toolkit::Peer {
+public:
+    explicit WindowPeer(std::shared_ptr<ObjectWindow> window) : window_(std::move(window)) {}
+    ~WindowPeer() override { window_->destroy(); }
+
+    const std::shared_ptr<ObjectWindow>& window() const { return window_; }
+
+    void changed(Prop which) override {
+        if (!window_->gone())
+            window_->changed(which);
+    }
+    void cellChanged(int row, int column) override {
+        if (!window_->gone())
+            window_->cellChanged(row, column);
+    }
+
+private:
+    std::shared_ptr<ObjectWindow> window_;
+};
+
+template <class T, class Make>
+bool makeIf(Control& control, HWND parent, Make make) {
+    auto* const kind = dynamic_cast<T*>(&control);
+    if (!kind)
+        return false;
+    const std::shared_ptr<ControlWindow> window = make(*kind, parent);
+    if (!window)
+        return true;
+    SetWindowPos(window->handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    attachPeer(control, window);
+    return true;
+}
+
+ControlWindow* controlWindow(const Control& control) {
+    return dynamic_cast<ControlWindow*>(windowOf(control).get());
+}
+
+} // namespace
+
+int ObjectWindow::dpi() const {
+    HWND const root = GetAncestor(handle(), GA_ROOT);
+    const auto object = std::dynamic_pointer_cast<ObjectWindow>(of(root));
+    return object && object->dpi_ != 0 ? object->dpi_ : static_cast<int>(GetDpiForWindow(root));
+}
+
+void attachPeer(toolkit::Object& object, std::shared_ptr<ObjectWindow> window) {
+    object.attach(std::make_unique<WindowPeer>(std::move(window)));
+}
+
+std::shared_ptr<ObjectWindow> windowOf(const toolkit::Object& object) {
+    const auto* const peer = dynamic_cast<const WindowPeer*>(object.peer());
+    return peer && !peer->window()->gone() ? peer->window() : nullptr;
+}
+
+void ControlWindow::make(const std::shared_ptr<ControlWindow>& it, HWND parent, const wchar_t* kind,
+                         DWORD style, DWORD extended) {
+    const Control& control = it->control_;
+    style |= WS_CHILD | WS_CLIPSIBLINGS;
+    if (!control.Enabled)
+        style |= WS_DISABLED;
+    create(it, {kind, style, extended, parent, {}});
+    it->showCaption();
+    it->lookChanged();
+    ShowWindow(it->handle(), control.Visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void ControlWindow::changed(Prop which) {
+    switch (which) {
+    case Prop::Caption:
+        return showCaption();
+    case Prop::Enabled:
+        EnableWindow(handle(), control_.Enabled);
+        return showLook();
+    case Prop::Visible:
+        ShowWindow(handle(), control_.Visible ? SW_SHOWNA : SW_HIDE);
+        return;
+    case Prop::ForeColor:
+    case Prop::FontBold:
+        return showLook();
+    case Prop::Left:
+    case Prop::Top:
+    case Prop::Width:
+    case Prop::Height:
+        return place();
+    default:
+        return;
+    }
+}
+
+void ControlWindow::lookChanged() {
+    place();
+    showLook();
+}
+
+void ControlWindow::showCaption() {
+    SetWindowTextW(handle(), wide(control_.Caption).c_str());
+}
+
+void ControlWindow::showLook() {
+    HFONT const now = font(control_.design, control_.FontBold, dpi());
+    if (reinterpret_cast<HFONT>(SendMessageW(handle(), WM_GETFONT, 0, 0)) != now)
+        SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(now), TRUE);
+}
+
+void ControlWindow::place() {
+    const RECT to = rectangle(control_, dpi());
+    SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ControlWindow::repaint() {
+    if (!isTransparent()) {
+        InvalidateRect(handle(), nullptr, FALSE);
+        return;
+    }
+    RECT area{};
+    GetWindowRect(handle(), &area);
+    MapWindowPoints(nullptr, GetParent(handle()), reinterpret_cast<POINT*>(&area), 2);
+    RedrawWindow(GetParent(handle()), &area, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void ControlWindow::paint() {
+    PAINTSTRUCT painting{};
+    HDC const dc = BeginPaint(handle(), &painting);
+    RECT all{};
+    GetClientRect(handle(), &all);
+    // On paper first, so that nothing is seen half painted.
+    HDC const paper = CreateCompatibleDC(dc);
+    HBITMAP const sheet = CreateCompatibleBitmap(dc, all.right, all.bottom);
+    HGDIOBJ const before = SelectObject(paper, sheet);
+    if (isTransparent())
+        paintBelow(paper);
+    paintAt(paper, {0, 0});
+    BitBlt(dc, 0, 0, all.right, all.bottom, paper, 0, 0, SRCCOPY);
+    SelectObject(paper, before);
+    DeleteObject(sheet);
+    DeleteDC(paper);
+    EndPaint(handle(), &painting);
+}
+
+void ControlWindow::paintBelow(HDC dc) const {
+    RECT place{};
+    GetWindowRect(handle(), &place);
+    const toolkit::Form& form = control_.form();
+    SetDCBrushColor(dc, colour(form.BackColor, COLOR_BTNFACE));
+    RECT all{0, 0, place.right - place.left, place.bottom - place.top};
+    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    for (const Control* const below : control_.parent().controls()) {
+        if (below == &control_)
+            return; // what comes later stands in front
+        ControlWindow* const window = below->Visible ? controlWindow(*below) : nullptr;
+        RECT theirs{}, common{};
+        if (window && GetWindowRect(window->handle(), &theirs) &&
+            IntersectRect(&common, &theirs, &place))
+            window->paintAt(dc, {theirs.left - place.left, theirs.top - place.top});
+    }
+}
+
+LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_LBUTTONDOWN && toolkit::takesFocus(control_) && GetFocus() != handle()) {
+        // The focus that goes may bring up a message box: behind it the button is long up again,
+        // and no click will follow.
+        SetFocus(handle());
+        if (gone() || GetFocus() != handle() || GetKeyState(VK_LBUTTON) >= 0)
+            return 0;
+    }
+    const LRESULT result = ObjectWindow::received(message, wParam, lParam);
+    if (message == WM_SETFOCUS && !gone())
+        toolkit::Screen.focusMoved(control_);
+    return result;
+}
+
+Control* controlOf(HWND window) {
+    for (; window; window = GetAncestor(window, GA_PARENT))
+        if (const auto object = std::dynamic_pointer_cast<ControlWindow>(Window::of(window)))
+            return object->gone() ? nullptr : &object->control();
+    return nullptr;
+}
+
+void makeControls(toolkit::Container& container, HWND parent) {
+    for (Control* const control : container.controls()) {
+        if (auto* const timer = dynamic_cast<toolkit::Timer*>(control)) {
+            control->attach(makeTimer(*timer));
+            continue;
+        }
+        makeIf<toolkit::Label>(*control, parent, makeLabel) ||
+            makeIf<toolkit::CommandButton>(*control, parent, makeCommandButton) ||
+            makeIf<toolkit::OptionButton>(*control, parent, makeOptionButton) ||
+            makeIf<toolkit::Frame>(*control, parent, makeFrame) ||
+            makeIf<toolkit::Image>(*control, parent, makeImage) ||
+            makeIf<toolkit::PictureBox>(*control, parent, makePictureBox) ||
+            makeIf<toolkit::Line>(*control, parent, makeLine) ||
+            makeIf<toolkit::TextBox>(*control, parent, makeTextBox) ||
+            makeIf<toolkit::StatusBar>(*control, parent, makeStatusBar) ||
+            makeIf<toolkit::Toolbar>(*control, parent, makeToolbar) ||
+            makeIf<toolkit::MSFlexGrid>(*control, parent, makeMSFlexGrid);
+        if (auto* const inner = dynamic_cast<toolkit::Container*>(control))
+            if (const auto window = windowOf(*control))
+                makeControls(*inner, window->handle());
+    }
+}
+
+} // namespace desktop_win32

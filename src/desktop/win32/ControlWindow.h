@@ -1,0 +1,82 @@
+// The base of the windows of controls: what every one follows of its control.
+#pragma once
+
+#include "desktop/win32/Look.h"
+#include "desktop/win32/Window.h"
+#include "toolkit/Form.h"
+
+namespace desktop_win32 {
+
+// The window of a form or control. Its peer passes on what changes, and takes the window with it.
+class ObjectWindow : public Window {
+public:
+    virtual void changed(toolkit::Prop which) = 0;
+    virtual void cellChanged(int /*row*/, int /*column*/) {}
+
+    // Of the screen on which its outermost window stands, in dots to the inch.
+    int dpi() const;
+
+protected:
+    int dpi_ = 0; // of an outermost window that was told of another one since it was made
+};
+
+void attachPeer(toolkit::Object& object, std::shared_ptr<ObjectWindow> window);
+// The window of a form or control, or nullptr.
+std::shared_ptr<ObjectWindow> windowOf(const toolkit::Object& object);
+
+class ControlWindow : public ObjectWindow {
+public:
+    explicit ControlWindow(toolkit::Control& control) : control_(control) {}
+
+    toolkit::Control& control() const { return control_; }
+    void changed(toolkit::Prop which) override;
+    void lookChanged() override;
+
+    // What stands in front of the form's ground without a ground of its own paints what lies below
+    // it too.
+    virtual bool isTransparent() const { return false; }
+    // Paints the control with its top left corner at the place.
+    virtual void paintAt(HDC /*dc*/, POINT /*place*/) {}
+
+protected:
+    // `kind` and the styles are those of the system's window.
+    static void make(const std::shared_ptr<ControlWindow>& it, HWND parent, const wchar_t* kind,
+                     DWORD style, DWORD extended = 0);
+
+    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
+    virtual void showCaption();
+    // Follows the colours and the font.
+    virtual void showLook();
+    virtual void place();
+    // Has the control painted anew, with what stands in front of it.
+    void repaint();
+    // Paints the control and, where it is transparent, what lies below.
+    void paint();
+
+    toolkit::Control& control_;
+
+private:
+    void paintBelow(HDC dc) const;
+};
+
+// The control that the window, or the nearest window around it, shows; or nullptr.
+toolkit::Control* controlOf(HWND window);
+
+// Makes the windows of all controls in the container, inside `parent`. Later ones stand in front.
+void makeControls(toolkit::Container& container, HWND parent);
+
+// One a kind of control, each in a file of its own name.
+std::shared_ptr<ControlWindow> makeLabel(toolkit::Label& label, HWND parent);
+std::shared_ptr<ControlWindow> makeCommandButton(toolkit::CommandButton& button, HWND parent);
+std::shared_ptr<ControlWindow> makeOptionButton(toolkit::OptionButton& option, HWND parent);
+std::shared_ptr<ControlWindow> makeFrame(toolkit::Frame& frame, HWND parent);
+std::shared_ptr<ControlWindow> makeImage(toolkit::Image& image, HWND parent);
+std::shared_ptr<ControlWindow> makePictureBox(toolkit::PictureBox& box, HWND parent);
+std::shared_ptr<ControlWindow> makeLine(toolkit::Line& line, HWND parent);
+std::shared_ptr<ControlWindow> makeTextBox(toolkit::TextBox& box, HWND parent);
+std::shared_ptr<ControlWindow> makeStatusBar(toolkit::StatusBar& bar, HWND parent);
+std::shared_ptr<ControlWindow> makeToolbar(toolkit::Toolbar& bar, HWND parent);
+std::shared_ptr<ControlWindow> makeMSFlexGrid(toolkit::MSFlexGrid& grid, HWND parent);
+std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer);
+
+} // namespace desktop_win32

@@ -1,0 +1,119 @@
+#include "desktop/win32/ControlWindow.h"
+
+namespace desktop_win32 {
+
+namespace {
+
+// On the white ground of a board: grey enough to look out of play, dark enough to be read.
+constexpr COLORREF kGreyedText = RGB(0x80, 0x80, 0x80);
+constexpr COLORREF kBorder = RGB(0xA0, 0xA0, 0xA0);
+
+// The system's own label, so that readers know it for one, in the program's painting: the system's
+// knows no colours.
+class LabelWindow final : public ControlWindow {
+public:
+    LabelWindow(toolkit::Label& label) : ControlWindow(label), label_(label) {}
+
+    static std::shared_ptr<ControlWindow> make(toolkit::Label& label, HWND parent) {
+        const auto it = std::make_shared<LabelWindow>(label);
+        ControlWindow::make(it, parent, L"STATIC", SS_NOPREFIX);
+        return it;
+    }
+
+    bool isTransparent() const override { return label_.BackColor == toolkit::kThemeColour; }
+    void paintAt(HDC dc, POINT place) override;
+
+protected:
+    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
+        switch (message) {
+        case WM_PAINT:
+            paint();
+            return 0;
+        case WM_ERASEBKGND:
+            return TRUE;
+        case WM_SETTEXT: // the system's label would paint it at once
+            return DefWindowProcW(handle(), message, wParam, lParam);
+        default:
+            return ControlWindow::received(message, wParam, lParam);
+        }
+    }
+    void showCaption() override {
+        ControlWindow::showCaption();
+        place();
+        repaint();
+    }
+    void showLook() override { repaint(); }
+    void place() override;
+
+private:
+    HFONT shownFont(int width) const {
+        return label_.shrinksText
+                   ? fittingFont(label_.design, label_.FontBold, dpi(), wide(label_.Caption), width)
+                   : font(label_.design, label_.FontBold, dpi());
+    }
+    COLORREF textColour() const {
+        if (label_.Enabled)
+            return colour(label_.ForeColor, COLOR_BTNTEXT);
+        return isTransparent() ? GetSysColor(COLOR_GRAYTEXT) : kGreyedText;
+    }
+    UINT format() const;
+
+    toolkit::Label& label_;
+};
+
+UINT LabelWindow::format() const {
+    UINT how = DT_NOPREFIX;
+    if (label_.BorderStyle)
+        return how | DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+    if (label_.shrinksText)
+        how |= DT_END_ELLIPSIS | DT_SINGLELINE;
+    else if (!label_.AutoSize)
+        how |= DT_WORDBREAK;
+    switch (label_.TextAlign) {
+    case toolkit::Alignment::Right:
+        return how | DT_RIGHT;
+    case toolkit::Alignment::Centre:
+        return how | DT_CENTER;
+    default:
+        return how;
+    }
+}
+
+void LabelWindow::place() {
+    RECT to = rectangle(label_, dpi());
+    if (label_.AutoSize) {
+        const SIZE room = extent(wide(label_.Caption), shownFont(0));
+        to.right = std::max(to.right, to.left + room.cx);
+        to.bottom = std::max(to.bottom, to.top + room.cy);
+    }
+    SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void LabelWindow::paintAt(HDC dc, POINT place) {
+    RECT area{};
+    GetClientRect(handle(), &area);
+    OffsetRect(&area, place.x, place.y);
+    if (!isTransparent()) {
+        SetDCBrushColor(dc, colour(label_.BackColor, COLOR_BTNFACE));
+        FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
+    if (label_.BorderStyle) {
+        SetDCBrushColor(dc, kBorder);
+        FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    }
+    SetBkMode(dc, TRANSPARENT);
+    SetTextColor(dc, textColour());
+    HGDIOBJ const before = SelectObject(dc, shownFont(area.right - area.left));
+    const std::wstring caption = wide(label_.Caption);
+    DrawTextW(dc, caption.c_str(), static_cast<int>(caption.size()), &area, format());
+    SelectObject(dc, before);
+}
+
+} // namespace
+
+std::shared_ptr<ControlWindow> makeLabel(toolkit::Label& label, HWND parent) {
+    return LabelWindow::make(label, parent);
+}
+
+} // namespace desktop_win32

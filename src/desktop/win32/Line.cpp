@@ -1,0 +1,32 @@
+#include "desktop/win32/ControlWindow.h"
+
+namespace desktop_win32 {
+
+namespace {
+
+class LineWindow final : public ControlWindow {
+public:
+    using ControlWindow::ControlWindow;
+
+    static std::shared_ptr<ControlWindow> make(toolkit::Line& line, HWND parent) {
+        const auto it = std::make_shared<LineWindow>(line);
+        ControlWindow::make(it, parent, L"STATIC", SS_ETCHEDHORZ);
+        return it;
+    }
+
+protected:
+    void place() override {
+        RECT to = rectangle(control_, dpi());
+        const int height = std::max(2, dpi() / 48); // a rule has no height of its own
+        SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, height,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+};
+
+} // namespace
+
+std::shared_ptr<ControlWindow> makeLine(toolkit::Line& line, HWND parent) {
+    return LineWindow::make(line, parent);
+}
+
+} // namespace desktop_win32

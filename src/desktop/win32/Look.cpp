@@ -1,0 +1,100 @@
+#include "desktop/win32/Look.h"
+
+#include <cmath>
+#include <map>
+#include <tuple>
+
+namespace desktop_win32 {
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+// The bitmap font of that name has no sizes between its few: this one is drawn like it.
+const char* installedName(const std::string& design) {
+    return design == "MS Sans Serif" ? "Microsoft Sans Serif" : design.c_str();
+}
+
+HFONT fontOfHeight(const toolkit::Font& design, bool bold, int height) {
+    static std::map<std::tuple<std::string, int, bool, bool, bool>, HFONT> made;
+    HFONT& font = made[{design.name, height, bold, design.italic, design.underline}];
+    if (!font) {
+        LOGFONTW wanted{};
+        wanted.lfHeight = -height;
+        wanted.lfWeight = bold ? FW_BOLD : FW_NORMAL;
+        wanted.lfItalic = design.italic;
+        wanted.lfUnderline = design.underline;
+        wanted.lfCharSet = DEFAULT_CHARSET;
+        wanted.lfQuality = CLEARTYPE_QUALITY;
+        wide(installedName(design.name)).copy(wanted.lfFaceName, LF_FACESIZE - 1);
+        font = CreateFontIndirectW(&wanted);
+    }
+    return font;
+}
+
+int emHeight(const toolkit::Font& design, int dpi) {
+    return static_cast<int>(std::lround(design.size * dpi / 72));
+}
+
+} // namespace
+
+int pixels(double twips, int dpi) {
+    return static_cast<int>(std::lround(twips * dpi / kTwipsPerInch));
+}
+
+double twips(int pixels, int dpi) {
+    return pixels * kTwipsPerInch / dpi;
+}
+
+RECT rectangle(const toolkit::Control& control, int dpi) {
+    return {pixels(control.Left, dpi), pixels(control.Top, dpi),
+            pixels(control.Left + control.Width, dpi), pixels(control.Top + control.Height, dpi)};
+}
+
+std::wstring wide(const std::string& utf8) {
+    const int size = static_cast<int>(utf8.size());
+    std::wstring text(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0)),
+        L'\0');
+    MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text.data(), static_cast<int>(text.size()));
+    return text;
+}
+
+std::string narrow(const std::wstring& text) {
+    const int size = static_cast<int>(text.size());
+    std::string utf8(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(), size,
+                                                                  nullptr, 0, nullptr, nullptr)),
+                     '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, utf8.data(), static_cast<int>(utf8.size()),
+                        nullptr, nullptr);
+    return utf8;
+}
+
+COLORREF colour(toolkit::Colour bgr, int themeIndex) {
+    return bgr == toolkit::kThemeColour ? GetSysColor(themeIndex) : static_cast<COLORREF>(bgr);
+}
+
+HFONT font(const toolkit::Font& design, bool bold, int dpi) {
+    return fontOfHeight(design, bold, emHeight(design, dpi));
+}
+
+HFONT fittingFont(const toolkit::Font& design, bool bold, int dpi, const std::wstring& text,
+                  int width) {
+    int height = emHeight(design, dpi);
+    const int smallest = height * 3 / 4;
+    while (height > smallest && extent(text, fontOfHeight(design, bold, height)).cx > width)
+        --height;
+    return fontOfHeight(design, bold, height);
+}
+
+SIZE extent(const std::wstring& text, HFONT font) {
+    HDC const dc = GetDC(nullptr);
+    HGDIOBJ const before = SelectObject(dc, font);
+    RECT room{};
+    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &room, DT_CALCRECT | DT_NOPREFIX);
+    SelectObject(dc, before);
+    ReleaseDC(nullptr, dc);
+    return {room.right, room.bottom};
+}
+
+} // namespace desktop_win32

@@ -1,0 +1,31 @@
+// The toolkit's units and values in those of Windows.
+#pragma once
+
+#include "desktop/win32/System.h"
+#include "toolkit/Control.h"
+
+#include <string>
+
+namespace desktop_win32 {
+
+// The screen's pixels of a resolution, in dots to the inch; 96 shows a logical pixel as one.
+int pixels(double twips, int dpi);
+double twips(int pixels, int dpi);
+// From edge to edge, so that neighbours meet at every resolution.
+RECT rectangle(const toolkit::Control& control, int dpi);
+
+std::wstring wide(const std::string& utf8);
+std::string narrow(const std::wstring& text);
+
+// The system's number for a colour. What the user's theme has is told by its index, a COLOR_...
+COLORREF colour(toolkit::Colour bgr, int themeIndex);
+
+// A design font, its weight overridden by `bold`. It stays the desktop's.
+HFONT font(const toolkit::Font& design, bool bold, int dpi);
+// A size down to three quarters of the design's, in which the text is no wider than `width` pixels.
+HFONT fittingFont(const toolkit::Font& design, bool bold, int dpi, const std::wstring& text,
+                  int width);
+// How much room a text takes in a font, in pixels. Its lines end in CR LF.
+SIZE extent(const std::wstring& text, HFONT font);
+
+} // namespace desktop_win32

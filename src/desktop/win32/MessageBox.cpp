@@ -1,0 +1,85 @@
+#include "desktop/win32/MessageBox.h"
+
+#include "desktop/win32/Look.h"
+
+namespace desktop_win32 {
+
+using toolkit::MessageBox;
+
+namespace {
+
+UINT buttons(const MessageBox& box) {
+    switch (box.buttons) {
+    case MessageBox::Buttons::YesNo:
+        return MB_YESNO;
+    case MessageBox::Buttons::YesNoCancel:
+        return MB_YESNOCANCEL;
+    case MessageBox::Buttons::AbortRetryIgnore:
+        return MB_ABORTRETRYIGNORE;
+    default:
+        return MB_OK;
+    }
+}
+
+UINT icon(const MessageBox& box) {
+    switch (box.icon) {
+    case MessageBox::Icon::Critical:
+        return MB_ICONERROR;
+    case MessageBox::Icon::Question:
+        return MB_ICONQUESTION;
+    case MessageBox::Icon::Exclamation:
+        return MB_ICONWARNING;
+    default:
+        return MB_ICONINFORMATION;
+    }
+}
+
+UINT defaultButton(const MessageBox& box) {
+    return box.defaultButton == 3   ? MB_DEFBUTTON3
+           : box.defaultButton == 2 ? MB_DEFBUTTON2
+                                    : MB_DEFBUTTON1;
+}
+
+// The system's box of Yes and No takes neither Esc nor a close box: here both answer No.
+LRESULT CALLBACK escapable(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                           DWORD_PTR answer) {
+    if (message == WM_CLOSE || (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)) {
+        message = WM_COMMAND;
+        wParam = MAKEWPARAM(answer, BN_CLICKED);
+        lParam = reinterpret_cast<LPARAM>(GetDlgItem(box, static_cast<int>(answer)));
+    }
+    return DefSubclassProc(box, message, wParam, lParam);
+}
+
+struct Opening {
+    const MessageBox* box;
+    HHOOK hook;
+};
+Opening opening{}; // the box that is just coming up
+
+LRESULT CALLBACK comesUp(int code, WPARAM wParam, LPARAM lParam) {
+    HHOOK const hook = opening.hook;
+    if (code == HCBT_ACTIVATE && opening.box) {
+        const MessageBox& box = *std::exchange(opening.box, nullptr);
+        HWND const window = reinterpret_cast<HWND>(wParam);
+        if (box.buttons == MessageBox::Buttons::YesNo) {
+            SetWindowSubclass(window, escapable, 0, IDNO);
+            EnableMenuItem(GetSystemMenu(window, FALSE), SC_CLOSE, MF_BYCOMMAND | MF_ENABLED);
+        }
+    }
+    return CallNextHookEx(hook, code, wParam, lParam);
+}
+
+} // namespace
+
+int showMessageBox(const MessageBox& box, HWND owner) {
+    opening = {&box, SetWindowsHookExW(WH_CBT, comesUp, nullptr, GetCurrentThreadId())};
+    HHOOK const hook = opening.hook;
+    const int answer = MessageBoxW(owner, wide(box.text).c_str(), wide(box.title).c_str(),
+                                   buttons(box) | icon(box) | defaultButton(box) |
+                                       (owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND));
+    UnhookWindowsHookEx(hook);
+    return answer; // the toolkit's numbers are the system's
+}
+
+} // namespace desktop_win32

@@ -1,0 +1,155 @@
+#include "desktop/win32/Win32Desktop.h"
+
+#include "desktop/win32/Loop.h"
+#include "desktop/win32/MessageBox.h"
+
+#include <memory>
+#include <utility>
+
+namespace desktop_win32 {
+
+using toolkit::Control;
+using toolkit::Form;
+
+namespace {
+
+// Runs calls that come from outside the event loop. No user sees it.
+class CallWindow final : public Window {
+public:
+    static std::shared_ptr<CallWindow> make() {
+        const auto it = std::make_shared<CallWindow>();
+        create(it, {nullptr, 0, 0, HWND_MESSAGE, {}});
+        return it;
+    }
+
+    static constexpr UINT kCall = WM_APP;
+
+    // The number of the call.
+    WPARAM add(std::function<void()> call) {
+        calls_.push_back(std::move(call));
+        return calls_.size() - 1;
+    }
+
+protected:
+    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message != kCall)
+            return Window::received(message, wParam, lParam);
+        // Once is enough, also while the call runs an event loop of its own.
+        if (const auto call = std::exchange(calls_.at(wParam), nullptr))
+            call();
+        return 0;
+    }
+
+private:
+    std::vector<std::function<void()>> calls_;
+};
+
+CallWindow& callWindow() {
+    static const std::shared_ptr<CallWindow> it = CallWindow::make();
+    return *it;
+}
+
+std::shared_ptr<FormWindow> windowOfForm(const Form& form) {
+    return std::dynamic_pointer_cast<FormWindow>(windowOf(form));
+}
+
+std::shared_ptr<FrameWindow> frame() {
+    for (int i = 0; i < toolkit::Forms.Count(); ++i)
+        if (auto found = std::dynamic_pointer_cast<FrameWindow>(windowOf(toolkit::Forms(i))))
+            return found;
+    return nullptr;
+}
+
+// The window in front, over which the next one comes up; nullptr without any.
+HWND inFront() {
+    if (const auto around = frame())
+        return GetLastActivePopup(around->handle());
+    const auto first = toolkit::Forms.Count() > 0 ? windowOf(toolkit::Forms(0)) : nullptr;
+    return first ? first->handle() : nullptr;
+}
+
+} // namespace
+
+void Win32Desktop::open(Form& form) {
+    std::shared_ptr<FormWindow> window;
+    const auto around = frame();
+    if (form.kind == Form::Kind::MDIFrame)
+        window = FrameWindow::make(form);
+    else if (around && form.kind == Form::Kind::MDIChild)
+        window = makePageWindow(form, around);
+    else
+        window = TopLevelWindow::make(form, inFront());
+    form.hWnd = reinterpret_cast<std::uintptr_t>(window->handle());
+    attachPeer(form, window);
+}
+
+void Win32Desktop::show(Form& form, bool modal) {
+    const auto window = windowOfForm(form);
+    if (!window)
+        return;
+    const auto alone = modal ? std::dynamic_pointer_cast<TopLevelWindow>(window) : nullptr;
+    if (alone)
+        alone->block();
+    window->show();
+    if (alone)
+        runLoop([&] { return alone->gone(); });
+}
+
+void Win32Desktop::close(Form& form) {
+    form.attach(nullptr);
+    form.hWnd = 0;
+}
+
+void Win32Desktop::focus(Control& control) {
+    const auto window = windowOf(control);
+    if (!window)
+        return;
+    SetFocus(window->handle());
+    if (!window->gone())
+        toolkit::Screen.focusMoved(control); // also where another program is in front
+}
+
+int Win32Desktop::messageBox(const toolkit::MessageBox& box) {
+    return showMessageBox(box, inFront());
+}
+
+void Win32Desktop::doEvents() {
+    runWaiting();
+}
+
+double Win32Desktop::screenWidth() {
+    return twips(GetSystemMetrics(SM_CXSCREEN), static_cast<int>(GetDpiForSystem()));
+}
+
+double Win32Desktop::screenHeight() {
+    return twips(GetSystemMetrics(SM_CYSCREEN), static_cast<int>(GetDpiForSystem()));
+}
+
+int Win32Desktop::run() {
+    return toolkit::Forms.Count() == 0 ? 0 : runLoop([] { return false; });
+}
+
+std::function<void()> Win32Desktop::waker(std::function<void()> event) {
+    HWND const to = callWindow().handle();
+    const WPARAM call = callWindow().add(std::move(event));
+    return [to, call] { PostMessageW(to, CallWindow::kCall, call, 0); };
+}
+
+void Win32Desktop::endLoop() {
+    // Queued, since the event that runs may show another form.
+    waker([] {
+        if (toolkit::Forms.Count() == 0)
+            PostQuitMessage(0);
+    })();
+}
+
+bool Win32Desktop::WinHelpA(std::uintptr_t /*window*/, const char* /*file*/, unsigned /*command*/,
+                            std::uintptr_t /*data*/) {
+    return false;
+}
+
+} // namespace desktop_win32
+
+std::unique_ptr<desktop::SystemDesktop> desktop::makeDesktop() {
+    return std::make_unique<desktop_win32::Win32Desktop>();
+}
