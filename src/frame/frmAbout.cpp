@@ -46,12 +46,13 @@ frmAbout::frmAbout() : FormOf(Kind::TopLevel, "frmAbout", 4860, 3900) {
         label.design = {.name = "Arial", .size = line.size};
         label.ForeColor = line.colour;
         label.TabIndex = line.tabIndex;
+        label.isShadow = line.index == 0 || line.index == 2;
     }
     lblCopyright.load(1, *this, "", toolkit::Place{120, 720, 2550, 225}).TabIndex = 11;
     lblCopyright.load(0, *this, kCopyright, toolkit::Place{120, 1020, 2550, 285}).TabIndex = 8;
     for (const int i : {0, 1}) {
         lblCopyright(i).AutoSize = true;
-        lblCopyright(i).design = {.size = 9.75, .bold = true};
+        lblCopyright(i).design = {.size = 9.75};
         lblCopyright(i).FontBold = true;
         lblCopyright(i).ForeColor = toolkit::kBlack;
     }

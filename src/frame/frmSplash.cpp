@@ -18,9 +18,10 @@ void buildTitle(toolkit::ControlArray<toolkit::Label>& title, toolkit::Form& for
             i, form, caption,
             toolkit::Place{place.Left + 60 * i, place.Top - 15 * i, place.Width, place.Height});
         label.AutoSize = true;
-        label.design = {.name = "Arial", .size = 32, .bold = true};
+        label.design = {.name = "Arial", .size = 32};
         label.FontBold = true;
         label.ForeColor = i == 0 ? toolkit::kBlack : toolkit::kBlue;
+        label.isShadow = i == 0;
     }
 }
 
@@ -35,7 +36,7 @@ frmSplash::frmSplash() : FormOf(Kind::TopLevel, "frmSplash", 6600, 3225) {
     imgLogo.Picture = "quorvanta";
     buildTitle(lblProductName, *this, "App Name", {105, 795, 3180, 765});
     buildTitle(lblZW, *this, kMaker, {930, 0, 3255, 765});
-    lblVersion.design = {.name = "Arial", .size = 9.75, .bold = true};
+    lblVersion.design = {.name = "Arial", .size = 9.75};
     lblVersion.FontBold = true;
     lblVersion.ForeColor = toolkit::kBlack;
     int top = 2130;

@@ -134,8 +134,10 @@ void frmCustomize6::GoCustomJackPot(int mode) {
         lotto.prpMinNumber = 1;
         lotto.prpRowNumber = row;
         step([&] { lotto.prpActionToDo = cLotto::ShowRow; });
-        if (mode == kDraw)
-            step([&] { lotto.prpActionToDo = cLotto::DrawFromEnabled; });
+        if (mode != kDraw)
+            return;
+        step([&] { lotto.prpActionToDo = cLotto::DrawFromEnabled; });
+        announceDraw(Label1);
     });
 }
 

@@ -7,6 +7,18 @@
 
 namespace quorvanta {
 
+namespace {
+
+bool isDrawn(const toolkit::Control& label) {
+    return label.ForeColor == toolkit::kRed;
+}
+
+std::string speakMark(const toolkit::Control& label) {
+    return label.Caption.get() + (isDrawn(label) ? ", drawn" : "");
+}
+
+} // namespace
+
 toolkit::Place NumberPlaces::of(int number) const {
     const int line = (number - 1) / kInLine;
     const auto column = static_cast<std::size_t>((number - 1) % kInLine);
@@ -24,8 +36,17 @@ void buildBoard(toolkit::Form& form, toolkit::ControlArray<toolkit::Frame>& fram
         label.BorderStyle = true;
         label.TextAlign = toolkit::Alignment::Centre;
         label.design = {.name = "Arial", .size = design.fontSize};
-        label.speaksMarks = true;
+        label.speaks = speakMark;
     }
+}
+
+void announceDraw(toolkit::ControlArray<toolkit::Label>& labels) {
+    std::string numbers;
+    for (int n = 1; n <= kNumbers; ++n)
+        if (isDrawn(labels(n)))
+            numbers += (numbers.empty() ? "Drawn: " : ", ") + std::to_string(n);
+    if (!numbers.empty())
+        labels(1).announce(numbers);
 }
 
 } // namespace quorvanta

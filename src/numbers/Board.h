@@ -30,4 +30,7 @@ struct BoardDesign {
 void buildBoard(toolkit::Form& form, toolkit::ControlArray<toolkit::Frame>& frames, int index,
                 toolkit::ControlArray<toolkit::Label>& labels, const BoardDesign& design);
 
+// Has a screen reader say the drawn numbers, in rising order.
+void announceDraw(toolkit::ControlArray<toolkit::Label>& labels);
+
 } // namespace quorvanta

@@ -119,6 +119,7 @@ void frmMain::cmdJackpot_Click() {
     lotto.prpControl.Set(lbl1.ref());
     lotto.prpDrawNumber = CInt(opt1(mintSystem).Tag);
     lotto.prpActionToDo = cLotto::Draw;
+    announceDraw(lbl1);
 }
 
 } // namespace quorvanta

@@ -28,6 +28,14 @@ struct Font {
     bool underline = false;
 };
 
+// The font that a control is designed with; its weight is the control's FontBold.
+struct DesignFont {
+    std::string name = Font().name;
+    double size = Font().size; // points
+    bool italic = false;
+    bool underline = false;
+};
+
 class Control;
 class ControlArrayBase;
 struct KeyStroke;
@@ -63,9 +71,13 @@ public:
     Property<double> Width{*this, Prop::Width};
     Property<double> Height{*this, Prop::Height};
     std::string Tag;
-    int TabIndex = 0;     // the order in which Tab visits the controls of a form
-    Font design;          // the design font; FontBold overrides its weight
-    std::string spokenAs; // what a screen reader says where the caption doesn't tell
+    int TabIndex = 0; // the order in which Tab visits the controls of a form
+    DesignFont design;
+
+    // What a screen reader says of the control where its caption doesn't tell; `speaks` where that
+    // goes by the control's state. Both are set before the control is shown.
+    std::string spokenAs;
+    std::string (*speaks)(const Control& control) = nullptr;
 
     std::function<void()> Click;
     std::function<void()> DblClick;
@@ -79,6 +91,14 @@ public:
     int index() const { return index_; }
     void joinArray(ControlArrayBase& array, int index);
     Container& parent() const { return *parent_; }
+
+    // The font to be shown.
+    Font font() const;
+    // What a screen reader says; a desktop asks it anew when the caption, the colour, the weight or
+    // the text has changed. The empty text is for a control to be passed by.
+    virtual std::string spoken() const;
+    // Has a screen reader say `text` once, wherever the focus is.
+    void announce(const std::string& text);
 
     // Gives the control the focus, as the program or the user may.
     void SetFocus();
@@ -108,6 +128,9 @@ protected:
     bool takesInput() const { return Enabled && Visible; }
 
 private:
+    template <class OfArray, class Own, class... Args>
+    void raiseEvent(OfArray ControlArrayBase::*ofArray, Own Control::*own, Args&... args);
+
     Container* parent_ = nullptr;
     ControlArrayBase* array_ = nullptr;
     int index_ = 0;

@@ -1,5 +1,6 @@
 #include "toolkit/Desktop.h"
 
+#include "toolkit/Focus.h"
 #include "toolkit/Form.h"
 #include "toolkit/Printer.h"
 
@@ -10,17 +11,10 @@ Desktop withoutWindows;
 Desktop* installed = &withoutWindows;
 } // namespace
 
-std::vector<Button> MessageBox::answers() const {
-    switch (buttons) {
-    case Buttons::YesNo:
-        return {Yes, No};
-    case Buttons::YesNoCancel:
-        return {Yes, No, Cancel};
-    case Buttons::AbortRetryIgnore:
-        return {Abort, Retry, Ignore};
-    default:
-        return {OK};
-    }
+void Desktop::bringForward(Form& form) {
+    Screen.activated(form);
+    if (Control* const target = focusTarget(form))
+        Screen.focusMoved(*target);
 }
 
 void Desktop::focus(Control& control) {
@@ -41,10 +35,6 @@ Desktop& desktop() {
 
 void install(Desktop* it) {
     installed = it ? it : &withoutWindows;
-}
-
-int MsgBox(const MessageBox& box) {
-    return desktop().messageBox(box);
 }
 
 void DoEvents() {

@@ -2,10 +2,11 @@
 // shows nothing, answers message boxes with their default button, and has no events to run.
 #pragma once
 
+#include "toolkit/MessageBox.h"
+
 #include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace toolkit {
 
@@ -13,39 +14,26 @@ class Control;
 class Form;
 class PrinterDevice;
 
-// The number of the chosen button.
-enum Button : int { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
-
-struct MessageBox {
-    enum class Buttons { OK, YesNo, YesNoCancel, AbortRetryIgnore };
-    enum class Icon { Critical, Question, Exclamation, Information };
-
-    std::string text; // line breaks are CR LF
-    std::string title;
-    Buttons buttons = Buttons::OK;
-    Icon icon = Icon::Information;
-    int defaultButton = 1; // counted from 1, left to right
-
-    // The buttons, left to right, and the one at `defaultButton`.
-    std::vector<Button> answers() const;
-    Button defaultAnswer() const {
-        return answers().at(static_cast<std::size_t>(defaultButton - 1));
-    }
-};
-
 class Desktop {
 public:
     virtual ~Desktop() = default;
 
     // Makes the form's window and the peers of its controls, not yet visible.
     virtual void open(Form& /*form*/) {}
-    // Makes the window visible, or brings it to the front. A modal form blocks the others, and the
-    // call returns when it has been unloaded.
+    // Makes the window visible, also one that was minimized. A page stays as far behind as it is;
+    // another window comes to the front, with the focus at focusTarget. A modal form blocks the
+    // others, and the call returns when it has been unloaded.
     virtual void show(Form& /*form*/, bool /*modal*/) {}
+    // Puts a page in front of the others and the focus at its focusTarget. Where the desktop is
+    // just reporting that the focus moves, it does so behind that.
+    virtual void bringForward(Form& form);
     // The form has been unloaded: takes its window away.
     virtual void close(Form& /*form*/) {}
 
+    // Moves the keyboard to the control, and reports it to Screen.focusMoved.
     virtual void focus(Control& control);
+    // Has a screen reader say `text`, which concerns the control.
+    virtual void announce(Control& /*control*/, const std::string& /*text*/) {}
     virtual int messageBox(const MessageBox& box) { return box.defaultAnswer(); }
     // Runs the events that wait.
     virtual void doEvents() {}
@@ -73,9 +61,6 @@ Desktop& desktop();
 
 // Makes `it` the desktop of the run; nullptr brings back the one without windows.
 void install(Desktop* it);
-
-// Shows a modal message box and gives the number of the chosen button.
-int MsgBox(const MessageBox& box);
 
 // Lets the event loop run the events that wait, of any form.
 void DoEvents();

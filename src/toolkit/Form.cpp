@@ -1,5 +1,7 @@
 #include "toolkit/Form.h"
 
+#include "toolkit/Focus.h"
+
 #include <algorithm>
 #include <new>
 #include <utility>
@@ -7,8 +9,6 @@
 namespace toolkit {
 
 FormList Forms;
-ScreenObject Screen;
-AppObject App;
 std::function<void(const Form&, const platform::RuntimeError&)> Form::untrapped;
 
 Form::Form(Kind theKind, std::string name, double width, double height)
@@ -53,8 +53,25 @@ void Form::Show(bool modal) {
     Load();
     if (!loaded_)
         return; // loading it has unloaded it
+    if (kind == Kind::MDIChild)
+        return showPage();
     Screen.activated(*this);
     desktop().show(*this, modal);
+}
+
+// The focus moves before the window does, as a box on the page in front may take it back: then that
+// page stays in front.
+void Form::showPage() {
+    if (Control* const target = focusTarget(*this))
+        Screen.focusMoved(*target);
+    else
+        Screen.activated(*this);
+    if (!loaded_)
+        return;
+    const auto front = Screen.ActiveForm()->shared_from_this();
+    desktop().show(*this, false);
+    if (front->loaded() && front->kind == Kind::MDIChild)
+        desktop().bringForward(*front);
 }
 
 void Form::Unload(UnloadMode mode) {
@@ -71,9 +88,14 @@ void Form::Unload(UnloadMode mode) {
     run([this] { Form_Unload(); });
     loaded_ = unloading_ = false;
     std::erase(Forms.loaded_, keep);
+    const bool wasInFront = Screen.ActiveForm() == this;
+    Screen.forget(*this);
+    // The page below comes forward, before a desktop brings one of its own choice.
+    Form* const next = Screen.ActiveForm();
+    if (wasInFront && kind == Kind::MDIChild && next && next->kind == Kind::MDIChild)
+        desktop().bringForward(*next);
     desktop().close(*this);
     dropPeers();
-    Screen.forget(*this);
     forget();
     if (Forms.Count() == 0)
         desktop().endLoop();
@@ -134,35 +156,6 @@ Form& FormList::operator()(int index) const {
     if (index < 0 || index >= Count())
         throw platform::RuntimeError(platform::SubscriptOutOfRange);
     return *loaded_[static_cast<std::size_t>(index)];
-}
-
-void ScreenObject::focusMoved(Control& now) {
-    Control* const before = focus_;
-    if (before == &now || !now.form().loaded())
-        return; // a window that goes moves the focus about inside it
-    // Either event may unload either form.
-    const auto keepNow = now.form().shared_from_this();
-    const auto keepBefore = before ? before->form().shared_from_this() : nullptr;
-    focus_ = &now;
-    now.form().ActiveControl = &now;
-    activeForm_ = &now.form();
-    if (before && std::exchange(told_, nullptr) == before)
-        before->lostFocus();
-    if (focus_ == &now && told_ != &now) {
-        told_ = &now;
-        now.gotFocus();
-    }
-}
-
-void ScreenObject::forget(Form& form) {
-    for (Control** control : {&focus_, &told_})
-        if (*control && &(*control)->form() == &form)
-            *control = nullptr;
-    if (activeForm_ != &form)
-        return;
-    activeForm_ = nullptr;
-    if (Forms.Count() > 0)
-        activeForm_ = &Forms(Forms.Count() - 1);
 }
 
 } // namespace toolkit

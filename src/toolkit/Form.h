@@ -1,4 +1,4 @@
-// Forms, the list of the loaded ones, and the objects Screen and App.
+// Forms, and the list of the loaded ones.
 //
 // A form builds its controls in its constructor, with their design values. Show makes and loads it
 // on first use; Unload gives it up once no event of it is running, and the next Show starts from
@@ -6,9 +6,11 @@
 #pragma once
 
 #include "platform/RuntimeError.h"
+#include "toolkit/App.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/MSFlexGrid.h"
+#include "toolkit/Screen.h"
 
 #include <cstdint>
 
@@ -82,6 +84,7 @@ protected:
     virtual void forget() {}
 
 private:
+    void showPage();
     void unloadChildren(UnloadMode mode);
     void dropPeers();
 
@@ -125,39 +128,5 @@ private:
     std::vector<std::shared_ptr<Form>> loaded_;
 };
 extern FormList Forms;
-
-class ScreenObject {
-public:
-    double Width() const { return desktop().screenWidth(); }   // twips
-    double Height() const { return desktop().screenHeight(); } // twips
-    Form* ActiveForm() const { return activeForm_; }
-
-    // The focus went to a control of the program's pages. Anything else that takes the keyboard, a
-    // message box, a menu, another application, is no loss of focus and isn't told here. A control
-    // is told that it lost the focus, then the next that it got it; where the first takes it back
-    // meanwhile, the next is told nothing of either.
-    void focusMoved(Control& now);
-    // A form came to the front.
-    void activated(Form& form) { activeForm_ = &form; }
-
-private:
-    friend class Form;
-    void forget(Form& form);
-
-    Form* activeForm_ = nullptr;
-    Control* focus_ = nullptr;
-    Control* told_ = nullptr; // the control that was told that it got the focus
-};
-extern ScreenObject Screen;
-
-struct AppObject {
-    std::string Path; // the program's directory
-    std::string HelpFile;
-    int Major = 3;
-    int Minor = 5;
-    int Revision = 7;
-    bool PrevInstance = false; // another instance of the program runs
-};
-extern AppObject App;
 
 } // namespace toolkit

@@ -104,6 +104,15 @@ char letterOf(const std::string& caption) {
     return static_cast<char>(std::toupper(static_cast<unsigned char>(caption[at + 1])));
 }
 
+std::string withoutLetter(const std::string& caption) {
+    std::string read;
+    for (std::size_t at = 0; at < caption.size(); ++at) {
+        at += caption[at] == '&' ? 1 : 0;
+        read += caption.substr(at, 1);
+    }
+    return read;
+}
+
 bool comesBeforeMenus(const Form& form, const KeyStroke& key) {
     return buttonNamed(form, key) || entryFor(form, key);
 }

@@ -40,7 +40,13 @@ bool comesBeforeMenus(const Form& form, const KeyStroke& key);
 // others. Gives what is left of it for the box.
 std::string typeText(TextBox& box, const std::string& text);
 
+inline bool isArrow(const KeyStroke& stroke) {
+    return stroke.code >= key::Left && stroke.code <= key::Down;
+}
+
 // The letter underlined in a caption, a capital: 'F' of "&File"; 0 without one.
 char letterOf(const std::string& caption);
+// The caption as it is read.
+std::string withoutLetter(const std::string& caption);
 
 } // namespace toolkit

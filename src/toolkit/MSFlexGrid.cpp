@@ -4,6 +4,7 @@
 #include "toolkit/Keyboard.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace toolkit {
 
@@ -29,7 +30,6 @@ void MSFlexGrid::resize(int rows, int cols) {
     colWidths_.resize(at(cols), kDefaultColWidth);
     rowHeights_.resize(at(rows), kDefaultRowHeight);
     row_ = std::clamp(row_, 0, std::max(0, rows - 1));
-    rowSel_ = row_;
     tellPeer(*this, Prop::Rows);
 }
 
@@ -63,9 +63,7 @@ void MSFlexGrid::setText(int row, int column, const std::string& text) {
 void MSFlexGrid::setRow(int row) {
     if (row < 0 || row >= rows_)
         throw platform::RuntimeError(platform::InvalidCall);
-    const bool changed = row != row_ || row != rowSel_;
-    row_ = rowSel_ = row;
-    if (changed)
+    if (std::exchange(row_, row) != row)
         tellPeer(*this, Prop::Row);
 }
 
@@ -103,6 +101,11 @@ void MSFlexGrid::clickRow(int row) {
     if (row >= FixedRows)
         setRow(row);
     raiseClick();
+}
+
+void MSFlexGrid::doubleClickRow(int row) {
+    if (row >= FixedRows && row < rows_)
+        doubleClick();
 }
 
 void MSFlexGrid::moveToRow(int row) {

@@ -53,7 +53,7 @@ public:
     int row() const { return row_; }
     void setRow(int row);
     Accessor<MSFlexGrid, int, &MSFlexGrid::row, &MSFlexGrid::setRow> Row{*this};
-    int RowSel() const { return rowSel_; }
+    int RowSel() const { return row_; }
 
     // In twips. Raise InvalidArrayIndex for a column or row that isn't there.
     int ColWidth(int column) const;
@@ -65,10 +65,11 @@ public:
     void Clear();
 
     // The user clicks a data row, or presses Enter on it: it becomes current before Click is
-    // raised. A click on a header cell, of the row or of the column, is told as row 0 and changes
-    // nothing. A double click is
-    // told after the click that it begins with.
+    // raised. A click on a header cell, of the row, of the column or the corner, is told as row 0
+    // and changes nothing. A double click is told after the click that it begins with; on a header
+    // cell it means nothing.
     void clickRow(int row);
+    void doubleClickRow(int row);
 
     // The user moves to a data row with the keyboard: it becomes current, with no Click.
     void moveToRow(int row);
@@ -87,7 +88,7 @@ private:
     int rowsToAPage() const;
 
     int rows_ = 2, cols_ = 2;
-    int row_ = 1, rowSel_ = 1;
+    int row_ = 1;
     std::vector<std::vector<std::string>> cells_; // by row, then column
     std::vector<int> colWidths_, rowHeights_;
 };

@@ -41,6 +41,16 @@ TEST_F(MainPageTest, EverySystemMarksItsCountAndComesBackAtTheNextOpen) {
     }
 }
 
+TEST_F(MainPageTest, ADrawIsSaidOnceAndInRisingOrder) {
+    setting = "0";
+    frmMain& page = open<frmMain>();
+    for (const int n : {33, 6, 47, 29, 45, 32})
+        os.random.script.push_back((static_cast<float>(n) - 0.5F) / 49);
+    userKey(page, toolkit::key::F1 + 4);
+    EXPECT_EQ(desk.announced, std::vector<std::string>{"Drawn: 6, 29, 32, 33, 45, 47"});
+    EXPECT_EQ(page.lbl1(33).spoken() + page.lbl1(34).spoken(), "33, drawn34");
+}
+
 TEST_F(MainPageTest, ABadStoredSystemIsReportedAndLeavesNoneChosen) {
     for (const char* stored : {"17", "-1", "abc", ""})
         for (const auto answer : {toolkit::Ignore, toolkit::Abort}) {

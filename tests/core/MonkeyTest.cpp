@@ -44,7 +44,9 @@ protected:
         if (what == 0)
             form.Unload(toolkit::FormControlMenu);
         else if (what < 8)
-            userKey(form, any<int>({kCtrlKey, 13, 27, 65, 116}), roll(3) == 0 ? roll(8) : 2);
+            userKey(form,
+                    any<int>({kCtrlKey, 9, 13, 13, 27, 32, 37, 38, 39, 40, 'A', 'F', 'R', 116}),
+                    any<int>({0, 0, 1, 2, 4}));
         else
             onControl(form);
         --depth;

@@ -21,6 +21,7 @@ struct FakeDesktop : toolkit::Desktop {
     int last = 0;                           // for ever behind those; 0 for a box's default button
     std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
+    std::vector<std::string> announced;
     std::vector<std::vector<toolkit::PrintedText>> printed; // page by page
     // Asked before each operation of the printer, by its name, and may throw.
     std::function<void(const std::string& operation)> printerFault = [](const auto&) {};
@@ -41,8 +42,11 @@ struct FakeDesktop : toolkit::Desktop {
     };
 
     void show(toolkit::Form& form, bool /*modal*/) override {
-        if (toolkit::Control* const to = toolkit::focusTarget(form))
-            to->SetFocus();
+        if (form.kind != toolkit::Form::Kind::MDIChild)
+            bringForward(form);
+    }
+    void announce(toolkit::Control& /*control*/, const std::string& text) override {
+        announced.push_back(text);
     }
     int messageBox(const toolkit::MessageBox& box) override {
         boxes.push_back(box);
@@ -96,7 +100,7 @@ inline void userClickRow(toolkit::MSFlexGrid& grid, int row) {
 
 inline void userDoubleClickRow(toolkit::MSFlexGrid& grid, int row) {
     userClickRow(grid, row);
-    grid.doubleClick();
+    grid.doubleClickRow(row);
 }
 
 // A key, with what it types. Gives whether it was used up.

@@ -23,6 +23,7 @@ struct Page : toolkit::FormOf<Page> {
     toolkit::CommandButton ok{*this, "ok", "R&&D &OK", {1000, 6500, 900, 300}};
     toolkit::CommandButton aside{*this, "aside", "&Kept", {9000, 0, 900, 300}};
     toolkit::Label label{*this, "label", "&Label", {0, 7000, 900, 300}};
+    toolkit::Timer timer{*this, "timer"};
     toolkit::Menu menu{*this, "menu", "&Menu"};
     toolkit::Menu draw{menu, "draw", "Draw"};
 
@@ -74,9 +75,12 @@ protected:
     FakeDesktop desk;
     ToolkitTest() { toolkit::install(&desk); }
     ~ToolkitTest() override {
+        unloadAll();
+        toolkit::install(nullptr);
+    }
+    static void unloadAll() {
         while (toolkit::Forms.Count() > 0)
             toolkit::Forms(0).Unload();
-        toolkit::install(nullptr);
     }
     static Page& page() {
         Page::the().Show();

@@ -29,23 +29,9 @@ public:
         showCaption();
     }
 
-    void showCaption() override {
-        widget_->setText(text(button_.Caption));
-        speak();
-    }
-
-    void showLook() override {
-        ControlPeer::showLook();
-        speak();
-    }
+    void showCaption() override { widget_->setText(text(button_.Caption)); }
 
 private:
-    void speak() {
-        if (button_.speaksPicks)
-            widget_->setAccessibleName(text(button_.Caption) +
-                                       (button_.FontBold ? QStringLiteral(", picked") : ""));
-    }
-
     toolkit::CommandButton& button_;
     QPushButton* widget_;
 };

@@ -1,5 +1,7 @@
 #include "desktop/qt/ControlPeer.h"
 
+#include "toolkit/Keyboard.h"
+
 #include <QVariant>
 
 namespace desktop_qt {
@@ -25,12 +27,11 @@ ControlPeer::ControlPeer(Control& control, QWidget* widget) : control_(control),
     widget->setObjectName(text(control.name()));
     widget->setProperty(kControl, QVariant::fromValue<void*>(&control));
     widget->setGeometry(rectangle(control));
-    widget->setFont(font(control.design, control.FontBold));
+    widget->setFont(font(control.font()));
     widget->setEnabled(control.Enabled);
     widget->setVisible(control.Visible);
     widget->setToolTip(text(control.ToolTipText));
-    if (!control.spokenAs.empty())
-        widget->setAccessibleName(text(control.spokenAs));
+    speak();
 }
 
 ControlPeer::~ControlPeer() {
@@ -41,7 +42,8 @@ ControlPeer::~ControlPeer() {
 void ControlPeer::changed(Prop which) {
     switch (which) {
     case Prop::Caption:
-        return showCaption();
+        showCaption();
+        return speak();
     case Prop::Enabled:
         widget_->setEnabled(control_.Enabled);
         return showLook();
@@ -49,7 +51,8 @@ void ControlPeer::changed(Prop which) {
         return widget_->setVisible(control_.Visible);
     case Prop::ForeColor:
     case Prop::FontBold:
-        return showLook();
+        showLook();
+        return speak();
     case Prop::ToolTipText:
         return widget_->setToolTip(text(control_.ToolTipText));
     case Prop::Left:
@@ -64,7 +67,14 @@ void ControlPeer::changed(Prop which) {
 
 void ControlPeer::showLook() {
     if (widget_->font().bold() != control_.FontBold)
-        widget_->setFont(font(control_.design, control_.FontBold));
+        widget_->setFont(font(control_.font()));
+}
+
+// What a widget shows it says by itself.
+void ControlPeer::speak() {
+    const std::string spoken = control_.spoken();
+    const bool shown = spoken == toolkit::withoutLetter(control_.Caption);
+    widget_->setAccessibleName(shown ? QString() : text(spoken));
 }
 
 Control* controlOf(const QWidget* widget) {

@@ -23,6 +23,8 @@ protected:
     virtual void showCaption() {}
     // Follows the colours and the font.
     virtual void showLook();
+    // Follows what a screen reader says.
+    void speak();
 
     toolkit::Control& control_;
     QObject listener_; // what the widget's signals are connected to: it goes with the peer
@@ -54,12 +56,5 @@ std::unique_ptr<ControlPeer> makeStatusBar(toolkit::StatusBar& bar, QWidget* par
 std::unique_ptr<ControlPeer> makeToolbar(toolkit::Toolbar& bar, QWidget* parent);
 std::unique_ptr<ControlPeer> makeMSFlexGrid(toolkit::MSFlexGrid& grid, QWidget* parent);
 std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer);
-
-// No timer fires while this lives: Qt runs events of its own while it shows a window.
-struct TimersHeld {
-    TimersHeld();
-    ~TimersHeld();
-    TimersHeld(const TimersHeld&) = delete;
-};
 
 } // namespace desktop_qt

@@ -1,3 +1,4 @@
+#include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
 
 #include <QLabel>
@@ -26,23 +27,32 @@ public:
     LabelPeer(toolkit::Label& label, QLabel* widget)
         : ControlPeer(label, widget), label_(label), widget_(widget) {
         widget->setTextFormat(Qt::PlainText);
-        widget->setAlignment(alignment(label.TextAlign));
+        align();
         widget->setWordWrap(!label.AutoSize && !label.BorderStyle);
         if (label.BorderStyle) {
             widget->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-            widget->setAlignment(Qt::AlignCenter);
         }
         showCaption();
         showLook();
+        if (label.isShadow)
+            passByReaders(*widget);
+    }
+
+    void changed(toolkit::Prop which) override {
+        if (which == toolkit::Prop::TextAlign)
+            align();
+        else if (which == toolkit::Prop::BackColor)
+            showLook();
+        else
+            ControlPeer::changed(which);
     }
 
     void showCaption() override {
-        widget_->setText(text(label_.Caption).replace(QLatin1String("\r\n"), QLatin1String("\n")));
+        widget_->setText(lines(label_.Caption));
         if (label_.shrinksText)
             shrinkText();
         if (label_.AutoSize)
             widget_->resize(widget_->size().expandedTo(widget_->sizeHint()));
-        speak();
     }
 
     void showLook() override {
@@ -59,26 +69,21 @@ public:
             widget_->setAutoFillBackground(true);
         }
         widget_->setPalette(palette);
-        speak();
     }
 
 private:
+    void align() {
+        widget_->setAlignment(label_.BorderStyle ? Qt::AlignCenter : alignment(label_.TextAlign));
+    }
+
     // What the smallest size doesn't fit ends in dots, and is told whole by the tooltip.
     void shrinkText() {
         const QString whole = text(label_.Caption);
         const int width = widget_->contentsRect().width() - 2;
-        widget_->setFont(fittingFont(label_.design, label_.FontBold, whole, width));
+        widget_->setFont(fittingFont(label_.font(), whole, width));
         const QString shown = widget_->fontMetrics().elidedText(whole, Qt::ElideRight, width);
         widget_->setText(shown);
         widget_->setToolTip(shown == whole ? text(label_.ToolTipText) : whole);
-        widget_->setAccessibleName(whole);
-    }
-
-    void speak() {
-        if (!label_.speaksMarks)
-            return;
-        const bool drawn = label_.ForeColor == toolkit::kRed;
-        widget_->setAccessibleName(text(label_.Caption) + (drawn ? QStringLiteral(", drawn") : ""));
     }
 
     toolkit::Label& label_;

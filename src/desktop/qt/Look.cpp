@@ -51,25 +51,31 @@ private:
 
 } // namespace
 
-QColor colour(toolkit::Colour bgr) {
-    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
+QString lines(const std::string& utf8) {
+    return text(utf8).replace(QLatin1String("\r\n"), QLatin1String("\n"));
 }
 
-QFont font(const toolkit::Font& design, bool bold) {
+QColor colour(toolkit::Colour bgr) {
+    const auto [red, green, blue] = toolkit::parts(bgr);
+    return {red, green, blue};
+}
+
+QFont font(const toolkit::Font& design) {
     QFont font;
     font.setFamilies({text(design.name), QStringLiteral("Liberation Sans")});
-    font.setPixelSize(qRound(design.size * 96 / 72));
-    font.setBold(bold);
+    font.setPixelSize(toolkit::fontPixels(design));
+    font.setBold(design.bold);
     font.setItalic(design.italic);
     font.setUnderline(design.underline);
     return font;
 }
 
-QFont fittingFont(const toolkit::Font& design, bool bold, const QString& text, int width) {
-    QFont fitting = font(design, bold);
-    const int smallest = fitting.pixelSize() * 3 / 4;
-    while (fitting.pixelSize() > smallest && QFontMetrics(fitting).horizontalAdvance(text) > width)
-        fitting.setPixelSize(fitting.pixelSize() - 1);
+QFont fittingFont(const toolkit::Font& design, const QString& text, int width) {
+    QFont fitting = font(design);
+    fitting.setPixelSize(toolkit::fittingHeight(fitting.pixelSize(), width, [&](int height) {
+        fitting.setPixelSize(height);
+        return QFontMetrics(fitting).horizontalAdvance(text);
+    }));
     return fitting;
 }
 

@@ -10,6 +10,9 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <functional>
+#include <utility>
+
 namespace desktop_qt {
 
 namespace {
@@ -60,6 +63,35 @@ private:
     MSFlexGrid& grid_;
 };
 
+// Its cells take clicks over their whole width, and a double click as one.
+class Header final : public QHeaderView {
+public:
+    Header(Qt::Orientation orientation, QWidget* parent, std::function<void()> clicked)
+        : QHeaderView(orientation, parent), clicked_(std::move(clicked)) {
+        setSectionResizeMode(QHeaderView::Fixed);
+        setMinimumSectionSize(1);
+        setDefaultAlignment(Qt::AlignCenter);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { pressed_ = cellAt(event); }
+    void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override {}
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        const int pressed = std::exchange(pressed_, -1);
+        if (pressed >= 0 && cellAt(event) == pressed)
+            clicked_();
+    }
+
+private:
+    int cellAt(const QMouseEvent* event) const {
+        return event->button() == Qt::LeftButton ? logicalIndexAt(event->position().toPoint()) : -1;
+    }
+
+    std::function<void()> clicked_;
+    int pressed_ = -1;
+};
+
 // The current row is the toolkit's, so the view doesn't select by itself: it tells the grid what
 // the user did, and highlights what the grid answers.
 class GridView final : public QTableView {
@@ -72,21 +104,24 @@ public:
         setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         setTabKeyNavigation(false);
         setWordWrap(false);
-        for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {
-            header->setSectionResizeMode(QHeaderView::Fixed);
-            header->setMinimumSectionSize(1);
-            header->setHighlightSections(false);
-            header->setSectionsClickable(true);
-            header->setDefaultAlignment(Qt::AlignCenter);
-        }
-        hookHeader(horizontalHeader());
-        hookHeader(verticalHeader());
+        setHorizontalHeader(new Header(Qt::Horizontal, this, [this] { clickHeader(); }));
+        setVerticalHeader(new Header(Qt::Vertical, this, [this] { clickHeader(); }));
+        auto* const corner = findChild<QAbstractButton*>();
+        corner->disconnect(this); // it would select all
+        corner->installEventFilter(this);
+        connect(corner, &QAbstractButton::clicked, this, [this] { clickHeader(); });
     }
 
     // The grid has gone with its form.
     void release() { grid_ = nullptr; }
 
 protected:
+    // The second press of a double click is no click of its own.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return qobject_cast<QAbstractButton*>(watched)
+                   ? event->type() == QEvent::MouseButtonDblClick
+                   : QTableView::eventFilter(watched, event);
+    }
     void mousePressEvent(QMouseEvent* event) override {
         pressed_ = rowAt(event);
         if (grid_ && event->button() == Qt::LeftButton && pressed_ > 0)
@@ -106,7 +141,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         pressed_ = 0; // its click was told already
         if (grid_ && event->button() == Qt::LeftButton && rowAt(event) > 0)
-            grid_->doubleClick();
+            grid_->doubleClickRow(rowAt(event));
     }
     // The keys of rows are the grid's own.
     void keyPressEvent(QKeyEvent* event) override {
@@ -119,20 +154,10 @@ protected:
     }
 
 private:
-    // A click on a header is a click on the grid that chooses no row. The view's own selecting
-    // would be in the way.
-    void hookHeader(QHeaderView* header) {
-        disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
-        disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
-        connect(header, &QHeaderView::sectionClicked, this, [this] {
-            setFocus(Qt::MouseFocusReason);
-            if (grid_)
-                grid_->clickRow(0);
-        });
-        connect(header, &QHeaderView::sectionDoubleClicked, this, [this] {
-            if (grid_)
-                grid_->doubleClick();
-        });
+    void clickHeader() {
+        setFocus(Qt::MouseFocusReason);
+        if (grid_)
+            grid_->clickRow(0);
     }
     int rowAt(const QMouseEvent* event) const {
         return QTableView::rowAt(event->position().toPoint().y()) + 1;
@@ -180,9 +205,9 @@ public:
 private:
     void makeCorner() {
         auto* const button = view_->findChild<QAbstractButton*>();
-        button->setAttribute(Qt::WA_TransparentForMouseEvents); // it would select all
         corner_ = new QLabel(button);
         corner_->setAlignment(Qt::AlignCenter);
+        corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
         corner_->setFont(view_->font());
         auto* const layout = new QVBoxLayout(button);
         layout->setContentsMargins(1, 1, 1, 1);

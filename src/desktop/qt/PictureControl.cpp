@@ -67,8 +67,6 @@ class PicturePeer final : public ControlPeer {
 public:
     PicturePeer(toolkit::PictureControl& control, PictureWidget* widget)
         : ControlPeer(control, widget), picture_(control), widget_(widget) {
-        if (control.spokenAs.empty())
-            widget->setAccessibleName(text(control.ToolTipText));
         showPicture();
     }
 

@@ -150,7 +150,7 @@ std::unique_ptr<QPrinter> open(const Queue& queue) {
 QFont printed(toolkit::Font design) {
     if (design.name.empty())
         design.name = "Arial";
-    QFont it = font(design, design.bold);
+    QFont it = font(design);
     it.setPointSizeF(design.size);
     return it;
 }

@@ -1,5 +1,6 @@
 #include "desktop/qt/QtDesktop.h"
 
+#include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/FocusRing.h"
 #include "desktop/qt/HelpViewer.h"
@@ -13,21 +14,15 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 
-#include <array>
-#include <map>
-
 namespace desktop_qt {
 
 using toolkit::Control;
 using toolkit::Form;
-using toolkit::MessageBox;
 
 namespace {
 
@@ -43,31 +38,6 @@ void waitUntilShown(QWidget& window) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                         QEventLoop::WaitForMoreEvents);
     window.repaint();
-}
-
-QMessageBox::Icon icon(MessageBox::Icon which) {
-    switch (which) {
-    case MessageBox::Icon::Critical:
-        return QMessageBox::Critical;
-    case MessageBox::Icon::Question:
-        return QMessageBox::Question;
-    case MessageBox::Icon::Exclamation:
-        return QMessageBox::Warning;
-    default:
-        return QMessageBox::Information;
-    }
-}
-
-// Whether Esc and the close box answer with the last button: Cancel, No or OK. After a failure none
-// of the answers is harmless, so the user has to choose one.
-bool hasEscapeAnswer(const MessageBox& box) {
-    return box.buttons != MessageBox::Buttons::AbortRetryIgnore;
-}
-
-const char* label(toolkit::Button button) {
-    static constexpr std::array<const char*, 8> kLabels{"",       "OK",      "Cancel", "&Abort",
-                                                        "&Retry", "&Ignore", "&Yes",   "&No"};
-    return kLabels.at(static_cast<std::size_t>(button));
 }
 
 } // namespace
@@ -140,7 +110,7 @@ void QtDesktop::show(Form& form, bool modal) {
             window->windowHandle()->setTransientParent(below->windowHandle());
     }
     {
-        const TimersHeld untilShown;
+        const toolkit::TimersHeld untilShown;
         peer->show();
         if (!modal && form.kind == Form::Kind::TopLevel)
             waitUntilShown(*window);
@@ -150,6 +120,22 @@ void QtDesktop::show(Form& form, bool modal) {
         connect(window, &QObject::destroyed, &loop, &QEventLoop::quit);
         loop.exec();
     }
+}
+
+void QtDesktop::bringForward(Form& form) {
+    const auto now = [keep = form.shared_from_this()] {
+        if (auto* const peer = dynamic_cast<FormPeer*>(keep->peer()))
+            peer->bringForward();
+    };
+    if (focusMoves_) // Qt goes on to activate the page to which the focus was going
+        QTimer::singleShot(0, this, now);
+    else
+        now();
+}
+
+void QtDesktop::announce(Control& control, const std::string& said) {
+    if (const QWidget* const widget = widgetOf(control))
+        desktop_qt::announce(*widget->window(), text(said));
 }
 
 void QtDesktop::close(Form& form) {
@@ -165,34 +151,6 @@ void QtDesktop::focus(Control& control) {
     // Just behind a message box the window isn't in front again, and Qt tells of the move later.
     if (widget->isVisible() && widget->window()->focusWidget() == widget)
         toolkit::Screen.focusMoved(control);
-    // Where the focus is just going to another page, Qt goes on to activate that.
-    if (focusMoves_)
-        QTimer::singleShot(0, widget, [widget] {
-            for (QWidget* around = widget; around; around = around->parentWidget())
-                if (auto* const page = qobject_cast<QMdiSubWindow*>(around))
-                    page->mdiArea()->setActiveSubWindow(page);
-            widget->setFocus(Qt::OtherFocusReason);
-        });
-}
-
-int QtDesktop::messageBox(const MessageBox& box) {
-    application();
-    QMessageBox window(icon(box.icon), text(box.title),
-                       text(box.text).replace(QLatin1String("\r\n"), QLatin1String("\n")),
-                       QMessageBox::NoButton, frame());
-    window.setTextFormat(Qt::PlainText);
-    std::map<QAbstractButton*, toolkit::Button> numbers;
-    for (const toolkit::Button number : box.answers()) {
-        // Buttons of one role keep this order on every desktop.
-        QPushButton* const button = window.addButton(label(number), QMessageBox::ActionRole);
-        numbers[button] = number;
-        if (number == box.defaultAnswer())
-            window.setDefaultButton(button);
-        if (hasEscapeAnswer(box) && number == box.answers().back())
-            window.setEscapeButton(button);
-    }
-    window.exec();
-    return numbers[window.clickedButton()];
 }
 
 void QtDesktop::doEvents() {

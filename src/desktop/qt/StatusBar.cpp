@@ -11,6 +11,7 @@ class StatusBarPeer final : public ControlPeer {
 public:
     StatusBarPeer(toolkit::StatusBar& bar, QStatusBar* widget)
         : ControlPeer(bar, widget), bar_(bar), panel_(new QLabel(widget)) {
+        widget->setAccessibleName({}); // its panel is read
         widget->setSizeGripEnabled(false);
         widget->setFixedHeight(pixels(bar.Height));
         panel_->setTextFormat(Qt::PlainText);
@@ -28,9 +29,8 @@ public:
 
 private:
     void showText() {
-        const QString shown = text(bar_.Panels(1));
-        panel_->setText(shown);
-        panel_->setAccessibleName(shown.isEmpty() ? QStringLiteral("Status") : shown);
+        panel_->setText(text(bar_.Panels(1)));
+        panel_->setAccessibleName(text(bar_.spoken()));
     }
 
     toolkit::StatusBar& bar_;

@@ -1,4 +1,5 @@
 #include "desktop/qt/ControlPeer.h"
+#include "toolkit/Keyboard.h"
 
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -29,14 +30,10 @@ protected:
     }
     // Characters that an input method or a dead key composes are typed like any others.
     void inputMethodEvent(QInputMethodEvent* event) override {
-        QString typed;
-        for (const QChar character : event->commitString()) {
-            int ascii = character.unicode();
-            if (toolkit::Control* const box = controlOf(this))
-                box->keyPress(ascii);
-            if (ascii != 0)
-                typed += QChar(ascii);
-        }
+        auto* const box = dynamic_cast<toolkit::TextBox*>(controlOf(this));
+        const QString typed =
+            box ? desktop_qt::text(toolkit::typeText(*box, event->commitString().toStdString()))
+                : QString();
         QInputMethodEvent kept(event->preeditString(), event->attributes());
         if (!typed.isEmpty())
             kept.setCommitString(typed, event->replacementStart(), event->replacementLength());
@@ -67,8 +64,7 @@ class TextBoxPeer final : public ControlPeer {
 public:
     TextBoxPeer(toolkit::TextBox& box, QLineEdit* widget)
         : ControlPeer(box, widget), box_(box), widget_(widget) {
-        widget->setAlignment(box.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
-                                                                        : Qt::AlignLeft);
+        align();
         if (box.shrinksText)
             QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this] { shrinkText(); });
         widget->setReadOnly(box.Locked);
@@ -79,8 +75,9 @@ public:
                 box_.Text.assume(now.toStdString());
         });
         QObject::connect(widget, &QLineEdit::selectionChanged, &listener_, [this] {
-            box_.SelStart.assume(qMax(0, widget_->selectionStart()));
-            box_.SelLength.assume(static_cast<int>(widget_->selectedText().size()));
+            const qsizetype start = qMax(0, widget_->selectionStart());
+            box_.SelStart.assume(characters(widget_->text().first(start)));
+            box_.SelLength.assume(characters(widget_->selectedText()));
         });
     }
 
@@ -88,12 +85,33 @@ public:
         if (which == toolkit::Prop::Text)
             showText();
         else if (which == toolkit::Prop::Selection)
-            widget_->setSelection(box_.SelStart, box_.SelLength);
+            select();
+        else if (which == toolkit::Prop::TextAlign)
+            align();
+        else if (which == toolkit::Prop::Locked)
+            widget_->setReadOnly(box_.Locked);
         else
             ControlPeer::changed(which);
     }
 
 private:
+    // Qt counts a character beyond the first 65,536 as two.
+    static int characters(const QString& text) { return static_cast<int>(text.toUcs4().size()); }
+    void select() {
+        const auto units = [this](int from, int count) {
+            const auto part = widget_->text().toUcs4().mid(from, count);
+            return static_cast<int>(
+                QString::fromUcs4(reinterpret_cast<const char32_t*>(part.constData()), part.size())
+                    .size());
+        };
+        widget_->setSelection(units(0, box_.SelStart), units(box_.SelStart, box_.SelLength));
+    }
+
+    void align() {
+        widget_->setAlignment(box_.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
+                                                                          : Qt::AlignLeft);
+    }
+
     void showText() {
         showing_ = true; // bytes that are no character stay as they are in the box's own text
         widget_->setText(text(box_.Text));
@@ -108,7 +126,7 @@ private:
         const QStyle& style = *widget_->style();
         const int frame = style.pixelMetric(QStyle::PM_DefaultFrameWidth, &option, widget_);
         const int width = widget_->width() - 2 * (frame + kMargin);
-        widget_->setFont(fittingFont(box_.design, box_.FontBold, widget_->text(), width));
+        widget_->setFont(fittingFont(box_.font(), widget_->text(), width));
         if (!widget_->isModified() &&
             widget_->fontMetrics().horizontalAdvance(widget_->text()) > width)
             widget_->home(false);

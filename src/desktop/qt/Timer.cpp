@@ -6,17 +6,12 @@ namespace desktop_qt {
 
 namespace {
 
-bool held = false;
-
 class TimerPeer final : public toolkit::Peer {
 public:
     explicit TimerPeer(toolkit::Timer& timer) : timer_(timer) {
         // A coarse timer may fire early.
         clock_.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] {
-            if (!held)
-                timer_.fire();
-        });
+        QObject::connect(&clock_, &QTimer::timeout, &clock_, [this] { timer_.fire(); });
         follow();
     }
 
@@ -34,14 +29,6 @@ private:
 };
 
 } // namespace
-
-TimersHeld::TimersHeld() {
-    held = true;
-}
-
-TimersHeld::~TimersHeld() {
-    held = false;
-}
 
 std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer) {
     return std::make_unique<TimerPeer>(timer);

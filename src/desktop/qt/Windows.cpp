@@ -1,10 +1,10 @@
 #include "desktop/qt/Windows.h"
 
+#include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/Menu.h"
 #include "toolkit/Focus.h"
 
-#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
@@ -88,35 +88,23 @@ public:
     ~PagePeer() override {
         if (!window_)
             return;
-        const bool wasActive = area().currentSubWindow() == page_;
         area().removeSubWindow(page_);
         page_->hide();
-        // The page below comes to the front, with the keyboard.
-        const auto rest = area().subWindowList(QMdiArea::StackingOrder);
-        if (wasActive && !rest.isEmpty())
-            area().setActiveSubWindow(rest.last());
         frame_.swapMenus();
     }
 
-    // The focus moves before the window does, as a box on the page in front may take it back: then
-    // that page stays in front.
     void show() override {
-        Form& form = form_;
-        Form* front = &form;
-        if (toolkit::Control* const target = toolkit::focusTarget(form)) {
-            toolkit::Screen.focusMoved(*target);
-            front = toolkit::Screen.ActiveForm();
-        }
-        if (form.peer() != this)
-            return; // unloaded meanwhile, and this with it
-        if (front == &form)
-            focusForm(form); // or the page would come up with the first of a group of options
-        page_->isMinimized() ? page_->showNormal() : page_->show();
-        const auto* const peer = front ? dynamic_cast<PagePeer*>(front->peer()) : nullptr;
-        if (!peer || form.peer() != this)
-            return;
-        area().setActiveSubWindow(peer->page_);
-        focusForm(*front);
+        if (toolkit::Screen.ActiveForm() == &form_)
+            focusForm(form_); // or the page would come up with the first of a group of options
+        if (page_->isMinimized())
+            page_->showNormal();
+        else
+            page_->show();
+    }
+
+    void bringForward() override {
+        area().setActiveSubWindow(page_);
+        focusForm(form_);
     }
 
 private:
@@ -145,12 +133,6 @@ protected:
 private:
     Form& form_;
 };
-
-// Without this a window of its own is told as a mere group of widgets.
-QAccessibleInterface* describeWindow(const QString& /*className*/, QObject* object) {
-    auto* const window = dynamic_cast<TopLevelWindow*>(object);
-    return window ? new QAccessibleWidget(window, QAccessible::Dialog) : nullptr;
-}
 
 } // namespace
 
@@ -198,7 +180,11 @@ FrameWindow::FrameWindow(Form& form) : area_(new QMdiArea(this)) {
     menus_ = makeMenus(form, this);
     swapMenus();
     resize(pixels(form.clientWidth), pixels(form.clientHeight) + menuBar()->sizeHint().height());
-    connect(area_, &QMdiArea::subWindowActivated, this, [this] { swapMenus(); });
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* page) {
+        if (Form* const active = formOf(page))
+            toolkit::Screen.activated(*active);
+        swapMenus();
+    });
 }
 
 void FrameWindow::swapMenus() {
@@ -209,8 +195,6 @@ void FrameWindow::swapMenus() {
     for (QAction* old : menuBar()->actions())
         menuBar()->removeAction(old);
     menuBar()->addActions(menus);
-    if (page && formOf(page))
-        toolkit::Screen.activated(*formOf(page));
 }
 
 void FrameWindow::closeEvent(QCloseEvent* event) {
@@ -282,8 +266,8 @@ std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
 }
 
 std::unique_ptr<FormPeer> makeTopLevelWindow(Form& form) {
-    QAccessible::installFactory(describeWindow); // a second time changes nothing
     auto* const window = new TopLevelWindow(form);
+    describeAsDialog(*window);
     mark(window, form);
     window->setWindowTitle(text(form.Caption));
     QWidget* const content = makeContent(form, window);

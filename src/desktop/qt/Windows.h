@@ -18,6 +18,7 @@ public:
 
     void changed(toolkit::Prop which) override;
     virtual void show();
+    virtual void bringForward() { show(); }
     QWidget* window() const { return window_; }
 
 protected:

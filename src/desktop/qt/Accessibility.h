@@ -1,0 +1,17 @@
+// What Qt doesn't tell screen readers by itself.
+#pragma once
+
+#include <QLabel>
+
+namespace desktop_qt {
+
+// Has screen readers pass the label by.
+void passByReaders(QLabel& label);
+
+// Has screen readers say `text`, wherever the focus is in the window.
+void announce(QWidget& window, const QString& text);
+
+// Has screen readers take the window for a dialog; else it is a mere group of widgets to them.
+void describeAsDialog(QWidget& window);
+
+} // namespace desktop_qt

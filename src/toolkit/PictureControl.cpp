@@ -1,0 +1,19 @@
+#include "toolkit/PictureControl.h"
+
+#include "toolkit/Keyboard.h"
+
+namespace toolkit {
+
+std::string PictureControl::spoken() const {
+    return spokenAs.empty() ? ToolTipText.get() : spokenAs;
+}
+
+bool PictureBox::useKey(const KeyStroke& key) {
+    if (key.code != key::Space)
+        return false;
+    if (!key.repeats)
+        doubleClick();
+    return true;
+}
+
+} // namespace toolkit

@@ -1,0 +1,24 @@
+// A line of text that the user writes. A desktop takes over what was typed with `assume`.
+#pragma once
+
+#include "toolkit/Label.h"
+#include "toolkit/Text.h"
+
+namespace toolkit {
+
+class TextBox : public Control {
+public:
+    using Control::Control;
+
+    Property<std::string> Text{*this, Prop::Text};
+    // The selected text, in characters; a desktop that counts otherwise has to convert.
+    Property<int> SelStart{*this, Prop::Selection};
+    Property<int> SelLength{*this, Prop::Selection};
+    Property<Alignment> TextAlign{*this, Prop::TextAlign, Alignment::Left};
+    Property<bool> Locked{*this, Prop::Locked}; // can be selected and copied, not changed
+    bool shrinksText = false; // by design: a smaller font, rather than a long text cut off
+
+    bool takesKeys() const override { return true; }
+};
+
+} // namespace toolkit

@@ -1,0 +1,43 @@
+// Twips, colours, fonts and characters.
+#include "toolkit/Units.h"
+#include "toolkit/Text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace toolkit;
+
+TEST(UnitsTest, TwipsBecomePixelsAtEveryScale) {
+    EXPECT_EQ(pixels(1155), 77);
+    EXPECT_EQ(pixels(22.5), 2); // halves away from zero
+    EXPECT_EQ(pixels(-22.5), -2);
+    EXPECT_EQ(pixels(1155, kTwipsPerInch / 144), 116);
+    EXPECT_EQ(twips(77), 1155);
+    EXPECT_EQ(fontPixels({.size = 8.25}), 11);
+    EXPECT_EQ(fontPixels({.size = 24}), 32);
+    const auto [red, green, blue] = parts(0x102030);
+    EXPECT_EQ(red * 65536 + green * 256 + blue, 0x302010);
+}
+
+TEST(UnitsTest, AFontShrinksByAQuarterAtMost) {
+    for (const auto& [letters, height] : {std::pair(5, 20), {6, 16}, {6, 16}, {7, 15}, {50, 15}})
+        EXPECT_EQ(fittingHeight(20, 100, [&](int at) { return at * letters; }), height) << letters;
+}
+
+TEST(UnitsTest, CharactersAreCountedNotTheirBytes) {
+    const std::tuple<std::string, std::u32string> texts[]{
+        {"a\u00e9\u20ac\U0001F600", U"a\u00e9\u20ac\U0001F600"},
+        {"\x80x\xC3", U"\uFFFDx\uFFFD"},
+        {"\xE2\x82x", U"\uFFFD\uFFFDx"}};
+    for (const auto& [text, expected] : texts) {
+        EXPECT_TRUE(codePoints(text) == expected) << text;
+        EXPECT_EQ(characters(text), static_cast<int>(expected.size()));
+    }
+    std::string back;
+    for (const char32_t it : std::u32string(U"a\u00e9\u20ac\U0001F600"))
+        back += utf8(it);
+    EXPECT_EQ(back, "a\u00e9\u20ac\U0001F600");
+}
+
+} // namespace
