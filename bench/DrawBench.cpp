@@ -69,9 +69,9 @@ int main(int count, char** arguments) {
     tests::FakePlatform system;
     platform::StandardRandom random;
     random.seed();
-    const platform::Platform all{system.process,  system.clock, random,
-                                 system.settings, system.files, system.locale,
-                                 system.machine,  system.shell, system.help};
+    const platform::Platform all{system.process,  system.clock,  random,         system.settings,
+                                 system.files,    system.locale, system.machine, system.shell,
+                                 system.printing, system.help};
     platform::install(&all);
 
     quorvanta::frmMain::the().Load();

@@ -17,7 +17,7 @@ layer "$(find frame numbers lists bankroll storage common -name '*.h' -o -name '
 layer "$(find toolkit -name '*.h' -o -name '*.cpp')" 'toolkit/|platform/RuntimeError\.h'
 layer "$(ls platform/*.h platform/*.cpp)" 'platform/[A-Za-z]+\.h'
 layer main.cpp "$program|desktop/[A-Za-z]+\.h|platform/[A-Za-z]+\.h"
-grep -HnE '#include "' -r desktop | grep -vE '"(desktop/|toolkit/|platform/(Help|RuntimeError)\.h)' &&
+grep -HnE '#include "' -r desktop | grep -vE '"(desktop/|toolkit/|platform/[A-Za-z]+\.h)' &&
     status=1
 grep -HnE "#include \"($program|toolkit/|desktop/)" -r platform && status=1
 exit $status

@@ -110,13 +110,9 @@ void frmBankroll::SetFormProperties() {
 
 void frmBankroll::findCalculator(const std::string& directory) {
     const auto& os = platform::current();
-    for (const std::string& name : os.shell.calculators()) {
-        if (!mstrCalcPath.empty())
-            return;
-        const std::string path = os.files.join(directory, name);
-        if (os.files.exists(path))
+    for (const std::string& path : os.shell.calculators(directory))
+        if (mstrCalcPath.empty() && os.files.exists(path))
             mstrCalcPath = path;
-    }
 }
 
 void frmBankroll::txtWin_GotFocus(int Index) {

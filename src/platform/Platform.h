@@ -7,6 +7,7 @@
 #include "platform/Help.h"
 #include "platform/Locale.h"
 #include "platform/Machine.h"
+#include "platform/Printing.h"
 #include "platform/Process.h"
 #include "platform/Random.h"
 #include "platform/Settings.h"
@@ -23,6 +24,7 @@ struct Platform {
     Locale& locale;
     Machine& machine;
     Shell& shell;
+    Printing& printing;
     Help& help;
 };
 

@@ -22,8 +22,9 @@ public:
     virtual int ShellExecuteA(std::uintptr_t window, const char* operation, const char* file,
                               const char* parameters, const char* directory, int show) = 0;
 
-    // The file names that a system calculator may have, the desktop's own first.
-    virtual std::vector<std::string> calculators() const = 0;
+    // The paths at which a calculator may be that goes with one of the system's directories, the
+    // desktop's own first.
+    virtual std::vector<std::string> calculators(const std::string& directory) const = 0;
 
     // Starts the program at `path` in a normal window with the focus. Raises FileNotFound or
     // PermissionDenied.

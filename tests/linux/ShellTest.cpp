@@ -79,11 +79,39 @@ TEST_F(Shell, TellsWhyNothingWasOpened) {
     EXPECT_THROW(shell.start(files.path("missing")), platform::RuntimeError);
 }
 
-TEST_F(Shell, NamesTheDesktopsOwnCalculatorFirst) {
+TEST_F(Shell, FindsTheDesktopsOwnCalculatorFirstAndInTheMenuWhatBearsNoKnownName) {
     setenv("XDG_CURRENT_DESKTOP", "X:MATE", 1);
-    const auto names = shell.calculators();
-    EXPECT_EQ(names.front(), "mate-calc");
-    EXPECT_EQ(std::count(names.begin(), names.end(), "gnome-calculator"), 1) << "of 3 desktops";
+    setenv("XDG_DATA_HOME", files.directory.c_str(), 1);
+    setenv("XDG_DATA_DIRS", files.path("system").c_str(), 1);
+    fs::create_directories(files.path("applications"));
+    fs::create_directories(files.path("system/applications"));
+    const auto entry = [&](const std::string& name, const std::string& keys) {
+        files.create(name, "[Desktop Entry]\nCategories=Utility;Calculator;\n" + keys +
+                               "\n[Desktop Action x]\nExec=/bin/false\n");
+    };
+    const std::string note = "Exec=/bin/touch \"" + files.path("not ed") + "\" %U";
+    entry("applications/a.desktop", note);
+    entry("applications/hidden.desktop", note + "\nHidden=true");
+    entry("applications/gone.desktop", note + "\nTryExec=/no/such/program");
+    entry("system/applications/a.desktop", "Exec=/bin/false");
+    entry("system/applications/hidden.desktop", note);
+    files.create("applications/other.desktop", "[Desktop Entry]\nCategories=Math;\n" + note);
+
+    const auto paths = shell.calculators("/usr/bin");
+    EXPECT_EQ(std::vector(paths.begin(), paths.begin() + 3),
+              std::vector<std::string>(
+                  {"/usr/bin/mate-calc", "/usr/local/bin/mate-calc", "/usr/bin/gnome-calculator"}));
+    EXPECT_EQ(std::count(paths.begin(), paths.end(), "/usr/bin/gnome-calculator"), 1);
+    EXPECT_EQ(
+        std::vector(paths.end() - 2, paths.end()),
+        std::vector({std::string("/usr/local/bin/xcalc"), files.path("applications/a.desktop")}));
+    EXPECT_EQ(shell.calculators("/usr/sbin").back(), "/usr/sbin/xcalc");
+
+    shell.start(paths.back());
+    for (int i = 0; i < 500 && !fs::exists(files.own("not ed")); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_TRUE(fs::exists(files.own("not ed")));
+    EXPECT_THROW(shell.start(files.path("applications/gone.desktop")), platform::RuntimeError);
 }
 
 } // namespace

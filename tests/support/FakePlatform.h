@@ -192,8 +192,16 @@ struct FakeShell : platform::Shell {
         opened.push_back(std::string(operation) + " " + file);
         return answer;
     }
-    std::vector<std::string> calculators() const override { return {"sums", "abacus"}; }
+    std::vector<std::string> calculators(const std::string& directory) const override {
+        return {directory + "/sums", directory + "/abacus"};
+    }
     void start(const std::string& path) override { started.push_back(path); }
+};
+
+struct NoPrinter : platform::Printing {
+    std::unique_ptr<platform::PrintQueue> defaultPrinter() override {
+        throw platform::RuntimeError(platform::PrinterError);
+    }
 };
 
 struct FakeHelp : platform::Help {
@@ -215,8 +223,10 @@ struct FakePlatform {
     FakeLocale locale;
     FakeMachine machine;
     FakeShell shell;
+    NoPrinter printing;
     FakeHelp help;
-    platform::Platform all{process, clock, random, settings, files, locale, machine, shell, help};
+    platform::Platform all{process, clock,   random, settings, files,
+                           locale,  machine, shell,  printing, help};
 
     FakePlatform() { platform::install(&all); }
     ~FakePlatform() { platform::install(nullptr); }

@@ -77,7 +77,7 @@ struct RealFilesPlatform {
     RealFiles files;
     decltype(localeNamed("")) locale;
     platform::Platform all{fake.process, fake.clock,   fake.random, fake.settings, files,
-                           locale,       fake.machine, fake.shell,  fake.help};
+                           locale,       fake.machine, fake.shell,  fake.printing, fake.help};
 
     explicit RealFilesPlatform(const std::string& localeName = "en_US")
         : locale(localeNamed(localeName)) {

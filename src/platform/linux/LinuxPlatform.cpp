@@ -4,6 +4,7 @@
 #include "platform/linux/LinuxFiles.h"
 #include "platform/linux/LinuxLocale.h"
 #include "platform/linux/LinuxMachine.h"
+#include "platform/linux/LinuxPrinting.h"
 #include "platform/linux/LinuxProcess.h"
 #include "platform/linux/LinuxSettings.h"
 #include "platform/linux/LinuxShell.h"
@@ -21,6 +22,7 @@ struct Linux {
     LinuxLocale locale;
     LinuxMachine machine;
     LinuxShell shell;
+    LinuxPrinting printing;
 };
 
 } // namespace
@@ -28,7 +30,7 @@ struct Linux {
 Platform makePlatform(Help& help) {
     static auto* const it = new Linux; // never given up: the process's last moments use it too
     return {it->process, it->clock,   it->random, it->settings, it->files,
-            it->locale,  it->machine, it->shell,  help};
+            it->locale,  it->machine, it->shell,  it->printing, help};
 }
 
 } // namespace platform

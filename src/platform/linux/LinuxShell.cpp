@@ -2,6 +2,7 @@
 
 #include "platform/Addresses.h"
 #include "platform/RuntimeError.h"
+#include "platform/linux/Calculators.h"
 #include "platform/linux/Opener.h"
 
 #include <QDir>
@@ -9,8 +10,6 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include <algorithm>
-#include <cstdlib>
 #include <string_view>
 
 namespace platform {
@@ -19,23 +18,12 @@ namespace {
 
 enum : int { kNotFound = 2, kNoDirectory = 3, kDenied = 5, kNoProgram = 31, kStarted = 42 };
 
-struct Calculator {
-    const char* program;
-    const char* desktop; // as XDG_CURRENT_DESKTOP names it
-};
-constexpr Calculator kCalculators[] = {
-    {"gnome-calculator", "GNOME"}, {"kcalc", "KDE"},
-    {"mate-calc", "MATE"},         {"galculator", "LXDE"},
-    {"qalculate-qt", "LXQt"},      {"qalculate-gtk", "XFCE"},
-    {"gnome-calculator", "Unity"}, {"gnome-calculator", "X-Cinnamon"},
-    {"speedcrunch", ""},           {"xcalc", ""},
-};
-
 // Whether the program came to run. It has a session of its own and no terminal, and its end is
 // nobody's concern: the process between the two is gone at once.
-bool startDetached(const QString& program) {
+bool startDetached(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.setProgram(program);
+    process.setArguments(arguments);
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
@@ -69,24 +57,16 @@ int LinuxShell::ShellExecuteA(std::uintptr_t /*window*/, const char* operation, 
     }
 }
 
-std::vector<std::string> LinuxShell::calculators() const {
-    const char* const desktops = std::getenv("XDG_CURRENT_DESKTOP");
-    const QStringList ours =
-        QString::fromUtf8(desktops ? desktops : "").split(QLatin1Char(':'), Qt::SkipEmptyParts);
-    std::vector<std::string> names;
-    for (const bool own : {true, false})
-        for (const Calculator& it : kCalculators)
-            if (ours.contains(QLatin1String(it.desktop)) == own &&
-                std::find(names.begin(), names.end(), it.program) == names.end())
-                names.emplace_back(it.program);
-    return names;
+std::vector<std::string> LinuxShell::calculators(const std::string& directory) const {
+    return calculatorPaths(directory);
 }
 
 void LinuxShell::start(const std::string& path) {
-    const QString program = QString::fromStdString(path);
-    if (startDetached(program))
-        return;
-    throw RuntimeError(QFileInfo::exists(program) ? PermissionDenied : FileNotFound);
+    const QStringList command = commandOf(path);
+    if (command.isEmpty() || !QFileInfo::exists(QString::fromStdString(path)))
+        throw RuntimeError(FileNotFound);
+    if (!startDetached(command.first(), command.mid(1)))
+        throw RuntimeError(PermissionDenied);
 }
 
 } // namespace platform

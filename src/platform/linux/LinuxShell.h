@@ -11,7 +11,7 @@ public:
     int ShellExecuteA(std::uintptr_t window, const char* operation, const char* file,
                       const char* parameters, const char* directory, int show) override;
 
-    std::vector<std::string> calculators() const override;
+    std::vector<std::string> calculators(const std::string& directory) const override;
     void start(const std::string& path) override;
 };
 

@@ -1,4 +1,5 @@
 #include "platform/Platform.h"
+#include "platform/RuntimeError.h"
 #include "platform/StandardRandom.h"
 #include "platform/windows/WindowsClock.h"
 #include "platform/windows/WindowsFiles.h"
@@ -12,6 +13,11 @@ namespace platform {
 
 namespace {
 
+// No page is painted for a printer of Windows yet, so there is none to print on.
+struct NoPrinting final : Printing {
+    std::unique_ptr<PrintQueue> defaultPrinter() override { throw RuntimeError(PrinterError); }
+};
+
 struct Windows {
     WindowsProcess process;
     WindowsClock clock;
@@ -21,6 +27,7 @@ struct Windows {
     WindowsLocale locale;
     WindowsMachine machine;
     WindowsShell shell;
+    NoPrinting printing;
 };
 
 } // namespace
@@ -28,7 +35,7 @@ struct Windows {
 Platform makePlatform(Help& help) {
     static auto* const it = new Windows; // never given up: the process's last moments use it too
     return {it->process, it->clock,   it->random, it->settings, it->files,
-            it->locale,  it->machine, it->shell,  help};
+            it->locale,  it->machine, it->shell,  it->printing, help};
 }
 
 } // namespace platform

@@ -1,0 +1,124 @@
+#include "platform/linux/LinuxPrinting.h"
+
+#include "platform/RuntimeError.h"
+
+#include <QLibrary>
+
+#include <cups/cups.h>
+
+#include <algorithm>
+#include <string_view>
+
+namespace platform {
+
+namespace {
+
+constexpr int kPatience = 5;           // seconds that the print server gets for each answer
+constexpr double kPerMillimetre = 100; // the print server's unit of paper
+
+[[noreturn]] void fail() {
+    throw RuntimeError(PrinterError);
+}
+
+// The client library of the print server. It is loaded at the first print, since it brings others
+// with it that would be felt at every start.
+class Cups {
+    struct Symbol {
+        QFunctionPointer address;
+        template <class Function>
+        operator Function() const {
+            return reinterpret_cast<Function>(address);
+        }
+    };
+    static Symbol find(const char* name) {
+        const QFunctionPointer address = QLibrary::resolve(QStringLiteral("cups"), 2, name);
+        return address ? Symbol{address} : (fail(), Symbol{});
+    }
+
+public:
+    decltype(&::cupsServer) server = find("cupsServer");
+    decltype(&::ippPort) port = find("ippPort");
+    decltype(&::cupsEncryption) encryption = find("cupsEncryption");
+    decltype(&::httpConnect2) connect = find("httpConnect2");
+    decltype(&::httpSetTimeout) setTimeout = find("httpSetTimeout");
+    decltype(&::httpClose) close = find("httpClose");
+    decltype(&::cupsGetNamedDest) getNamedDest = find("cupsGetNamedDest");
+    decltype(&::cupsGetOption) getOption = find("cupsGetOption");
+    decltype(&::cupsFreeDests) freeDests = find("cupsFreeDests");
+    decltype(&::cupsPrintFile2) printFile = find("cupsPrintFile2");
+    decltype(&::pwgMediaForPWG) paper = find("pwgMediaForPWG");
+    decltype(&::pwgMediaForPPD) driverPaper = find("pwgMediaForPPD");
+};
+
+const Cups& cups() {
+    static const Cups library;
+    return library;
+}
+
+// A queue of the print server. It has a connection of its own: the one that the library shares out
+// waits for a server that hangs without an end.
+class CupsQueue final : public PrintQueue {
+public:
+    CupsQueue() {
+        if (!connection_)
+            fail();
+        cups().setTimeout(connection_.get(), kPatience, nullptr, nullptr);
+        printer_.reset(cups().getNamedDest(connection_.get(), nullptr, nullptr));
+        // A stopped queue would keep the job; one that rejects jobs says so itself.
+        if (!printer_ || option("printer-state") == std::to_string(IPP_PSTATE_STOPPED))
+            fail();
+    }
+
+    std::string name() const override {
+        std::string name = printer_->name;
+        if (printer_->instance)
+            name.append("/").append(printer_->instance);
+        return name;
+    }
+
+    std::optional<Paper> paper() const override {
+        std::string name(option("media").empty() ? option("PageSize") : option("media"));
+        name.resize(std::min(name.find(','), name.size())); // the rest tells the tray
+        const pwg_media_t* paper = cups().paper(name.c_str());
+        if (!paper)
+            paper = cups().driverPaper(name.c_str());
+        if (!paper)
+            return std::nullopt;
+        return Paper{paper->width / kPerMillimetre, paper->length / kPerMillimetre};
+    }
+
+    bool landscape() const override {
+        const auto orientation = option("orientation-requested");
+        return orientation == "4" || orientation == "5" || option("landscape") == "true";
+    }
+
+    void print(const std::string& file, const std::string& title) override {
+        if (cups().printFile(connection_.get(), printer_->name, file.c_str(), title.c_str(),
+                             printer_->num_options, printer_->options) == 0)
+            fail();
+    }
+
+private:
+    struct Close {
+        void operator()(http_t* it) const { cups().close(it); }
+        void operator()(cups_dest_t* it) const { cups().freeDests(1, it); }
+    };
+
+    std::string_view option(const char* name) const {
+        const char* value = cups().getOption(name, printer_->num_options, printer_->options);
+        return value ? value : "";
+    }
+
+    std::unique_ptr<http_t, Close> connection_{
+        cups().connect(cups().server(), cups().port(), nullptr, AF_UNSPEC, cups().encryption(), 1,
+                       kPatience * 1000, nullptr)};
+    std::unique_ptr<cups_dest_t, Close> printer_;
+};
+
+} // namespace
+
+std::unique_ptr<PrintQueue> LinuxPrinting::defaultPrinter() {
+    return std::make_unique<CupsQueue>();
+}
+
+} // namespace platform
