@@ -47,8 +47,8 @@ WindowsReplacement::~WindowsReplacement() {
 }
 
 void WindowsReplacement::finish(const std::string& path) {
-    if (missing(path) && !missing(wholeNameOf(path)))
-        must(rename(wholeNameOf(path), path), path);
+    if (missing(path))
+        must(rename(wholeNameOf(path), path) || GetLastError() == ERROR_FILE_NOT_FOUND, path);
 }
 
 void WindowsReplacement::discardOld() {
@@ -110,11 +110,12 @@ void WindowsReplacement::putInPlace() {
         return;
     const DWORD error = GetLastError();
     // There was no old content, or it already has the backup's name.
-    if (missing(path_)) {
+    if (error == ERROR_FILE_NOT_FOUND || missing(path_)) {
         must(rename(whole_, path_), path_);
         return;
     }
-    DeleteFileW(wide(whole_).c_str());
+    if (attributesOf(path_) != INVALID_FILE_ATTRIBUTES)
+        DeleteFileW(wide(whole_).c_str());
     SetLastError(error);
     must(false, path_);
 }

@@ -1,0 +1,193 @@
+// Saves with a fault at each call of Windows in turn. The linker puts the pointers __wrap___imp_...
+// below in the place of those by which the program's code reaches the calls.
+#include "storage/cQuorvantaLite.h"
+#include "tests/support/DataFile.h"
+#include "tests/support/RealFiles.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/windows/System.h"
+
+namespace {
+
+struct {
+    int position = 0;    // of the call that meets the fault, counted from 1; 0 for no fault
+    DWORD error = 0;     // of that call; 0 for the end of the process there
+    bool halves = false; // ReplaceFileW has done the first of its two steps when it meets the fault
+    bool dead = false;   // behind its end a process does nothing more
+    int calls = 0;
+    bool unforced = false; // what was written last is not forced to the disk
+} fault;
+
+bool meetsFault() {
+    if (fault.dead)
+        return true;
+    if (fault.position == 0 || ++fault.calls != fault.position)
+        return false;
+    fault.dead = fault.error == 0;
+    return true;
+}
+
+template <class Result, class Call>
+Result faulty(std::string_view name, Result failed, Call call) {
+    EXPECT_FALSE(!fault.dead && fault.unforced && name == "ReplaceFileW");
+    fault.unforced = name == "WriteFile" || (fault.unforced && name != "FlushFileBuffers");
+    if (!meetsFault())
+        return call();
+    SetLastError(fault.error == 0 ? ERROR_GEN_FAILURE : fault.error);
+    return failed;
+}
+
+} // namespace
+
+extern "C" {
+// The name, what it gives for a failure, its parameters and their names.
+#define FAULTY(name, failed, parameters, ...)                                                      \
+    extern decltype(&name) __real___imp_##name;                                                    \
+    static auto WINAPI faulty##name parameters {                                                   \
+        return faulty(#name, failed, [&] { return __real___imp_##name(__VA_ARGS__); });            \
+    }                                                                                              \
+    decltype(&name) __wrap___imp_##name = faulty##name;
+FAULTY(CreateFileW, INVALID_HANDLE_VALUE,
+       (const wchar_t* path, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security, DWORD how,
+        DWORD flags, HANDLE like),
+       path, access, share, security, how, flags, like)
+FAULTY(ReadFile, FALSE, (HANDLE file, void* to, DWORD size, DWORD* count, OVERLAPPED* at), file, to,
+       size, count, at)
+FAULTY(FlushFileBuffers, FALSE, (HANDLE file), file)
+FAULTY(MoveFileExW, FALSE, (const wchar_t* from, const wchar_t* to, DWORD how), from, to, how)
+FAULTY(DeleteFileW, FALSE, (const wchar_t* path), path)
+FAULTY(SetCurrentDirectoryW, FALSE, (const wchar_t* path), path)
+FAULTY(GetFileAttributesW, INVALID_FILE_ATTRIBUTES, (const wchar_t* path), path)
+FAULTY(GetFileType, DWORD(FILE_TYPE_UNKNOWN), (HANDLE file), file)
+FAULTY(GetFileSizeEx, FALSE, (HANDLE file, LARGE_INTEGER* size), file, size)
+
+extern decltype(&CloseHandle) __real___imp_CloseHandle;
+static BOOL WINAPI faultyCloseHandle(HANDLE it) {
+    const BOOL closed = __real___imp_CloseHandle(it); // as the end of the process does, too
+    return faulty("CloseHandle", FALSE, [=] { return closed; });
+}
+decltype(&CloseHandle) __wrap___imp_CloseHandle = faultyCloseHandle;
+
+extern decltype(&WriteFile) __real___imp_WriteFile;
+static BOOL WINAPI faultyWriteFile(HANDLE file, const void* from, DWORD size, DWORD* count,
+                                   OVERLAPPED* at) {
+    if (!fault.dead && fault.position != 0 && fault.calls + 1 == fault.position)
+        __real___imp_WriteFile(file, from, size / 2, count, at);
+    return faulty("WriteFile", FALSE,
+                  [=] { return __real___imp_WriteFile(file, from, size, count, at); });
+}
+decltype(&WriteFile) __wrap___imp_WriteFile = faultyWriteFile;
+
+extern decltype(&ReplaceFileW) __real___imp_ReplaceFileW;
+static BOOL WINAPI faultyReplaceFileW(const wchar_t* path, const wchar_t* by, const wchar_t* backup,
+                                      DWORD how, void* none, void* reserved) {
+    if (fault.halves && !fault.dead && fault.position != 0 && fault.calls + 1 == fault.position)
+        __real___imp_MoveFileExW(path, backup, MOVEFILE_REPLACE_EXISTING);
+    return faulty("ReplaceFileW", FALSE,
+                  [=] { return __real___imp_ReplaceFileW(path, by, backup, how, none, reserved); });
+}
+decltype(&ReplaceFileW) __wrap___imp_ReplaceFileW = faultyReplaceFileW;
+}
+
+namespace {
+
+using namespace quorvanta;
+
+const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak", kSpare = kFile + ".spare",
+                  kLabel = " WriteLottoFile";
+
+struct Start {
+    std::string name;
+    std::vector<std::string> files = {};
+    bool halves = false;
+};
+
+const Start kStarts[] = {{"first run"},
+                         {"second run", {kFile}},
+                         {"later run", {kFile, kBackup, kSpare}},
+                         {"file lost", {kBackup}},
+                         {"replaced by halves", {kFile, kBackup}, true}};
+
+// A directory as the start has it, new values to be saved, and a save under a fault.
+struct Trial {
+    tests::RealFilesPlatform system;
+    tests::ErrorBoxes boxes;
+    tests::StoredValues old, fresh;
+
+    explicit Trial(const Start& start) {
+        fault = {};
+        for (const auto& name : start.files)
+            system.files.create(name, tests::wholeFile());
+        old = fresh = read();
+        std::get<0>(fresh)[1] = "7;8;9;";
+        std::get<6>(fresh) = "1/2/2003";
+        fault.halves = start.halves;
+    }
+    // False if the save was over before the fault's position.
+    bool save(int position = 0, DWORD error = 0) const {
+        tests::stored() = fresh;
+        fault.position = position;
+        fault.error = error;
+        cQuorvantaLite().WriteLottoFile();
+        fault.position = 0;
+        fault.dead = fault.unforced = false;
+        return fault.calls >= position;
+    }
+    static tests::StoredValues read() {
+        tests::forgetStored();
+        cQuorvantaLite().ReadLottoFile();
+        return tests::stored();
+    }
+    bool isOldOrFresh() const {
+        const auto values = read();
+        return values == old || values == fresh;
+    }
+};
+
+TEST(SaveFaults, EndedAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
+    for (const Start& start : kStarts) {
+        int position = 0;
+        for (bool reached = true; reached;) {
+            SCOPED_TRACE(start.name + ", call " + std::to_string(++position));
+            Trial trial(start);
+            trial.boxes.last = toolkit::Abort;
+            reached = trial.save(position);
+            trial.boxes.takeReports(); // of what failed behind the end
+            EXPECT_TRUE(trial.isOldOrFresh());
+            trial.save();
+            EXPECT_EQ(trial.read(), trial.fresh);
+            EXPECT_TRUE(trial.boxes.boxes.empty());
+        }
+        EXPECT_GT(position, 10);
+    }
+}
+
+TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
+    for (const Start& start : kStarts)
+        for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore})
+            for (const auto& [error, number] : {std::pair(ERROR_DISK_FULL, "61"),
+                                                {ERROR_CRC, "57"},
+                                                {ERROR_ACCESS_DENIED, "70"},
+                                                {ERROR_FILE_NOT_FOUND, "76"},
+                                                {ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, "70"}}) {
+                int position = 0;
+                for (bool reached = true; reached;) {
+                    SCOPED_TRACE(start.name + ", call " + std::to_string(++position) + ", error " +
+                                 number + ", answer " + std::to_string(answer));
+                    Trial trial(start);
+                    trial.boxes.last = answer;
+                    reached = trial.save(position, static_cast<DWORD>(error));
+                    const auto reports = trial.boxes.takeReports();
+                    for (const auto& it : reports)
+                        EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel) << it;
+                    EXPECT_TRUE(trial.isOldOrFresh());
+                    if (reports.empty() || answer == toolkit::Retry) {
+                        EXPECT_EQ(trial.read(), trial.fresh);
+                    }
+                }
+                EXPECT_GT(position, 10);
+            }
+}
+
+} // namespace
