@@ -1,6 +1,6 @@
-#include "bench/Fairness.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
+#include "tests/support/Fairness.h"
 #include "tests/support/ListPages.h"
 
 namespace {
