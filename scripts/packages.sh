@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034
 # Debian packages that the scripts need, and their installation. Sourced, not run.
 
 picture_packages=(librsvg2-bin pngquant)
@@ -12,7 +13,7 @@ test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
 # The cross compiler, Wine to run what it makes, and what its windows need.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine
     fonts-liberation locales icoutils "${picture_packages[@]}" "${display_packages[@]}")
-check_packages=(clang-format)
+check_packages=(clang-format clang-tidy shellcheck pylint)
 
 # Installs those of the named packages that are missing, through sudo where not root.
 need() {

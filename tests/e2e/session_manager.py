@@ -1,14 +1,14 @@
-"""A small session manager of X11: prints its address, then what its client does; takes the calls of a
-session from its input: "checkpoint", "logout", "cancel" and "die"."""
+"""A small session manager of X11: prints its address, then what its client does; takes the calls
+of a session from its input: "checkpoint", "logout", "cancel" and "die"."""
 
 import ctypes
 import select
 import sys
-from ctypes import CFUNCTYPE, POINTER, byref, c_char_p, c_int, c_long, c_ulong, c_void_p
+from ctypes import CFUNCTYPE, POINTER, byref, c_char_p, c_int, c_ulong, c_void_p
 
 ICE, SM = ctypes.CDLL("libICE.so.6"), ctypes.CDLL("libSM.so.6")
-for function in ("IceComposeNetworkIdList", "IceAcceptConnection"):
-    getattr(ICE, function).restype = c_void_p
+for name in ("IceComposeNetworkIdList", "IceAcceptConnection"):
+    getattr(ICE, name).restype = c_void_p
 SM.SmsGenerateClientID.restype = c_void_p
 SAVE_BOTH, SAVE_LOCAL, ANY = 2, 1, 2
 kept, client = [], None
@@ -62,7 +62,7 @@ def ignore(*_arguments):
 
 @proc(c_int, c_void_p, c_void_p, POINTER(c_ulong), POINTER(c_void_p * 20), c_void_p)
 def new_client(connection, _data, mask, callbacks, _reason):
-    global client
+    global client  # pylint: disable=global-statement
     client, mask[0] = connection, 0x3FF
     calls = [register, interact, ignore, ignore, ignore, done, closed, ignore, ignore, ignore]
     for i, call in enumerate(calls):
