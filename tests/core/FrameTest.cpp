@@ -66,6 +66,9 @@ TEST_F(FrameTest, ToolbarAndMenusShowPagesOnTopOfOneAnother) {
     toolkit::App.HelpFile = "/app/quorvantalite.hlp";
     press("help");
     EXPECT_EQ(os.help.files, Names{"/app/quorvantalite.hlp"});
+    EXPECT_TRUE(desk.modal.empty());
+    userClick(frmFavorites::the().mnuAbout);
+    EXPECT_EQ(desk.modal, Names{"frmAbout"});
 }
 
 TEST_F(FrameTest, EveryWayOutAsksOnceSavesOnceAndEndsUnlessTheAnswerIsNo) {

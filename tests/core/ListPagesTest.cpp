@@ -1,5 +1,6 @@
 // What both pages of number rows do, and what each of them does in its own way.
 #include "tests/support/ListPages.h"
+#include "lists/cFlexGrid.h"
 
 namespace {
 
@@ -92,39 +93,41 @@ TYPED_TEST(ListPagesTest, OnlyYesDeletesAndEachWayOutLeavesItsOwnCurrentRow) {
 }
 
 TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
-    const std::map<char, std::function<void(TypeParam&)>> events{
-        {'C', [](auto& page) { userKey(page, kCtrlKey, 2); }},
-        {'S', [](auto& page) { userKey(page, kCtrlKey, 3); }}, // with Shift
-        {'B', [](auto& page) { userClick(page.cmdReset); }},
-        {'R', [](auto& page) { page.mnuReset.click(); }},
-        {'D', [](auto& page) { userDoubleClickRow(page.grd1, 5); }}};
+    using Event = std::function<void(TypeParam&)>;
+    const auto row = [](int number) -> Event {
+        return [=](auto& page) { userClickRow(page.grd1, number); };
+    };
+    const Event ctrl = [](auto& page) { userKey(page, kCtrlKey, 2); };
+    const Event ctrlAndShift = [](auto& page) { userKey(page, kCtrlKey, 3); };
+    const Event resetButton = [](auto& page) { userClick(page.cmdReset); };
+    const Event resetEntry = [](auto& page) { page.mnuReset.click(); };
+    const Event deleteRow5 = [](auto& page) { userDoubleClickRow(page.grd1, 5); };
     struct Case {
-        std::string events; // as above, or a digit for a click on a row
+        std::vector<Event> events;
         bool on;
         std::string after = "12345-----";
         std::size_t boxes = 0;
     };
-    for (const Case& c :
-         std::vector<Case>{{"C2413", false, "14325-----"},
-                           {"C22", false},
-                           {"C2C4", false},
-                           {"C2CC4", true},
-                           {"S24", false},
-                           {"C264", false, "14325-----", 1},
-                           {"C024", false, "14325-----"},
-                           {"C2R04", false, "14325-----"}, // no row is chosen by the header
-                           {"C2B4", false},
-                           {"CD", this->kCustomize, "1234------", 1},
-                           // Row 5, the first pick, is gone.
-                           {"CD2", false, "1234------", this->kCustomize ? 2U : 1U}}) {
-        SCOPED_TRACE(c.events);
+    const Case cases[] = {
+        {{ctrl, row(2), row(4), row(1), row(3)}, false, "14325-----"},
+        {{ctrl, row(2), row(2)}, false},
+        {{ctrl, row(2), ctrl, row(4)}, false},
+        {{ctrl, row(2), ctrl, ctrl, row(4)}, true},
+        {{ctrlAndShift, row(2), row(4)}, false},
+        {{ctrl, row(2), row(6), row(4)}, false, "14325-----", 1},
+        {{ctrl, row(0), row(2), row(4)}, false, "14325-----"},
+        // The header picks no row.
+        {{ctrl, row(2), resetEntry, row(0), row(4)}, false, "14325-----"},
+        {{ctrl, row(2), resetButton, row(4)}, false},
+        {{ctrl, deleteRow5}, this->kCustomize, "1234------", 1},
+        // Row 5, the first pick, is gone.
+        {{ctrl, deleteRow5, row(2)}, false, "1234------", this->kCustomize ? 2U : 1U}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE("case " + std::to_string(&c - cases));
         auto& page = this->open();
         this->desk.answers = {Yes};
-        for (const char event : c.events)
-            if (events.contains(event))
-                events.at(event)(page);
-            else
-                userClickRow(page.grd1, event - '0');
+        for (const Event& event : c.events)
+            event(page);
         EXPECT_EQ(page.statBar1.Panels(1).get(), c.on ? "Shift mode" : "");
         EXPECT_EQ(tell(this->rows), c.after);
         EXPECT_EQ(page.grd1.text(0, 1), "# 1");
@@ -133,7 +136,37 @@ TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
     }
 }
 
+class GridRowsTest : public ProgramTest {};
+
+TEST_F(GridRowsTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
+    auto& grid = open<frmFavorites>().grd1;
+    cFlexGrid rows;
+    rows.prpGrid.Set(grid.ref());
+    rows.prpGridRows = 4;
+    rows.prpGridCols = 3;
+    for (const int none : {-1, 0, 5}) {
+        rows.prpActionToDo = none;
+        EXPECT_EQ(grid.rows() * 100 + grid.cols(), 1107);
+    }
+    grid.Width = 3002;
+    rows.prpActionToDo = cFlexGrid::LayOut;
+    EXPECT_EQ(std::tuple(grid.rows(), grid.cols(), grid.FixedRows.get(), grid.FixedCols.get()),
+              std::tuple(4, 3, 1, 0));
+    for (int c = 0; c < 3; ++c)
+        EXPECT_EQ(std::pair(grid.ColWidth(c), grid.text(0, c)), std::pair(1001, std::string()));
+}
+
 class FavoritesTest : public ProgramTest {};
+
+TEST_F(FavoritesTest, TheGridIsSizedToItsContentAndSaysHowToDelete) {
+    const auto& page = open<frmFavorites>();
+    EXPECT_EQ(std::pair(page.grd1.Width.get(), page.grd1.Height.get()),
+              std::pair(6 * 480 + 960 + 150.0, 11 * 240 + 100.0));
+    EXPECT_EQ(page.grd1.text(0, 0) + page.grd1.text(0, 6) + page.grd1.text(10, 0),
+              "Favorites# 610.");
+    EXPECT_EQ(page.grd1.ToolTipText.get() + page.cmdReset.ToolTipText.get(),
+              "Double click to delete a rowResets the Keypad");
+}
 
 TEST_F(FavoritesTest, ASeventhKeyIsRefusedAndAnyOfTheSixCanBeTakenBack) {
     auto& page = open<frmFavorites>();

@@ -32,6 +32,29 @@ TEST_F(LottoTest, ADrawGoesFrom1To49TakesNoNumberTwiceAndAddsToOlderMarks) {
     EXPECT_EQ(desk.takeReports(), std::vector<std::string>(2, "9 cLotto.Lotto49"));
 }
 
+TEST_F(LottoTest, AnActionWithoutARoutineIsKeptAndDoesNothing) {
+    cLotto lotto;
+    lotto.prpControl.Set(board.ref());
+    lotto.prpDrawNumber = 6;
+    lotto.mintFrmButtons = 6;
+    lotto.prpMinNumber = 6;
+    lotto.prpHighNumber = 8;
+    const auto bold = [&] { return numbersWhere([&](int n) { return board(n).FontBold.get(); }); };
+    for (const auto& [action, expected] : {std::pair(cLotto::PickAll, Numbers{6, 7, 8}),
+                                           {cLotto::ToggleKey, {7, 8}},
+                                           {cLotto::PickNone, {}}}) {
+        lotto.prpActionToDo = action;
+        EXPECT_EQ(bold(), expected);
+        for (const int none : {-1, 0, 3, 8}) {
+            lotto.prpActionToDo = none;
+            EXPECT_EQ(lotto.prpActionToDo(), none);
+            EXPECT_EQ(std::pair(bold(), draw(0)), std::pair(expected, Numbers{}));
+        }
+    }
+    lotto.prpGrid = open<frmFavorites>().grd1.ref(); // is not stored
+    EXPECT_THROW(lotto.prpGrid(), platform::RuntimeError);
+}
+
 TEST_F(LottoTest, EverySetOfNumbersIsEquallyLikely) {
     constexpr double kBound = 6; // standard deviations: a false alarm in less than 1 of a million
     for (const auto& [action, pool] :

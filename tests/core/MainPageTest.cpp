@@ -30,6 +30,7 @@ TEST_F(MainPageTest, EverySystemMarksItsCountAndComesBackAtTheNextOpen) {
         frmMain& page = open<frmMain>();
         i % 2 == 0 ? userClick(page.opt1(i)) : userClick(page.mnuSystemPlay(i));
         EXPECT_EQ(setting, std::to_string(i));
+        EXPECT_EQ(chosen(page), "o" + setting + "m" + setting);
         userClick(page.cmdJackpot);
         userClick(page.mnuJackpot);
         EXPECT_EQ(red(page), count);
@@ -54,8 +55,8 @@ TEST_F(MainPageTest, ADrawIsSaidOnceAndInRisingOrder) {
 TEST_F(MainPageTest, ABadStoredSystemIsReportedAndLeavesNoneChosen) {
     for (const char* stored : {"17", "-1", "abc", ""})
         for (const auto answer : {toolkit::Ignore, toolkit::Abort}) {
-            setting = "9"; // what was chosen before
-            userClick(open<frmMain>().opt1(0));
+            setting = "9";
+            userClick(open<frmMain>().opt1(3)); // what a play goes on by
             frmMain::the().Unload();
             setting = stored;
             desk.last = answer;
@@ -66,9 +67,27 @@ TEST_F(MainPageTest, ABadStoredSystemIsReportedAndLeavesNoneChosen) {
             EXPECT_EQ(chosen(page), "");
             EXPECT_EQ(setting, stored);
             userClick(page.cmdJackpot);
-            EXPECT_EQ(red(page), 6U);
+            EXPECT_EQ(red(page), 9U);
             page.Unload();
         }
+}
+
+// Of each board and of the keypad: the first number, the next, the one below it and the last.
+TEST_F(MainPageTest, TheNumbersStandInSevenLinesOfSeven) {
+    using Corner = std::pair<double, double>;
+    using Corners = std::vector<Corner>;
+    const auto corners = [](const toolkit::ControlArrayBase& numbers) {
+        Corners of;
+        for (const int n : {1, 2, 9, 49})
+            of.emplace_back(numbers(n).Left, numbers(n).Top);
+        return of;
+    };
+    EXPECT_EQ(corners(open<frmMain>().lbl1),
+              (Corners{{75, 150}, {690, 150}, {690, 780}, {3840, 3930}}));
+    EXPECT_EQ(corners(open<frmCustomize6>().Label1),
+              (Corners{{60, 165}, {570, 165}, {570, 615}, {3120, 2865}}));
+    EXPECT_EQ(corners(open<frmFavorites>().cmdKey),
+              (Corners{{90, 255}, {630, 255}, {630, 600}, {3360, 2325}}));
 }
 
 } // namespace

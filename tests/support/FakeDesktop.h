@@ -22,6 +22,7 @@ struct FakeDesktop : toolkit::Desktop {
     std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
     std::vector<std::string> announced;
+    std::vector<std::string> modal;                         // the forms that were shown so, by name
     std::vector<std::vector<toolkit::PrintedText>> printed; // page by page
     // Asked before each operation of the printer, by its name, and may throw.
     std::function<void(const std::string& operation)> printerFault = [](const auto&) {};
@@ -41,7 +42,9 @@ struct FakeDesktop : toolkit::Desktop {
         }
     };
 
-    void show(toolkit::Form& form, bool /*modal*/) override {
+    void show(toolkit::Form& form, bool isModal) override {
+        if (isModal)
+            modal.push_back(form.name());
         if (form.kind != toolkit::Form::Kind::MDIChild)
             bringForward(form);
     }
