@@ -24,7 +24,7 @@ void WriteDebugLog(int number, const std::string& text, const std::string& descr
 // The run has a record.
 inline bool mblnLogStarted = false;
 
-// A failure that no routine has trapped: it is logged, and the user is told. Nothing can be
+// A failure that no routine has trapped: it is logged and shown to the user. Nothing can be
 // repeated or passed over any more, so the box has one button.
 void ReportUntrapped(const platform::RuntimeError& error, const std::string& where);
 

@@ -14,7 +14,7 @@ using toolkit::MessageBox;
 namespace {
 
 // Shows a box with the OK button under the trap of the routine that `label` names.
-void tell(const char* label, const std::string& text, MessageBox::Icon icon) {
+void showOK(const char* label, const std::string& text, MessageBox::Icon icon) {
     trapped(label, [&](auto step) {
         step([&] { toolkit::MsgBox({.text = text, .title = kProductTitle, .icon = icon}); });
     });
@@ -56,61 +56,61 @@ bool msgDeleteGridRow() {
 }
 
 void msgOnlySixNumbers() {
-    tell("modZWMsg.msgOnlySixNumbers",
-         std::string("You allready have 6 favorite numbers.\r\n") + kProductTitle +
-             " limits you to 6 numbers.\r\nTo continue, either deselect a number or start a new "
-             "favorite numbers listing.",
-         MessageBox::Icon::Exclamation);
+    showOK("modZWMsg.msgOnlySixNumbers",
+           std::string("You allready have 6 favorite numbers.\r\n") + kProductTitle +
+               " limits you to 6 numbers.\r\nTo continue, either deselect a number or start a new "
+               "favorite numbers listing.",
+           MessageBox::Icon::Exclamation);
 }
 
 void msgMoreNumbersRequired() {
-    tell("XXX.msgMoreNumbersRequired",
-         "You must have at least 2 Favorite numbers before filing to grid",
-         MessageBox::Icon::Exclamation);
+    showOK("XXX.msgMoreNumbersRequired",
+           "You must have at least 2 Favorite numbers before filing to grid",
+           MessageBox::Icon::Exclamation);
 }
 
 void msgMaxFavoriteNumbers() {
-    tell("modZWMsg.msgMaxFavoriteNumbers",
-         "You have reached the limit for your Favorite numbers.\r\n"
-         "To add a new row you must first delete one of your other listings",
-         MessageBox::Icon::Exclamation);
+    showOK("modZWMsg.msgMaxFavoriteNumbers",
+           "You have reached the limit for your Favorite numbers.\r\n"
+           "To add a new row you must first delete one of your other listings",
+           MessageBox::Icon::Exclamation);
 }
 
 void msgNotEnoughStammNumbers() {
-    tell("modZWMsg.msgNotEnoughStammNumbers",
-         "You have not selected enough numbers to file-to-grid.\r\n"
-         "Please pick at least seven numbers and try again",
-         MessageBox::Icon::Exclamation);
+    showOK("modZWMsg.msgNotEnoughStammNumbers",
+           "You have not selected enough numbers to file-to-grid.\r\n"
+           "Please pick at least seven numbers and try again",
+           MessageBox::Icon::Exclamation);
 }
 
 void msgMaxStammNumbers() {
-    tell("modZWMsg.msgMaxStammNumbers",
-         "You have reached the limit for your Customized numbers.\r\n"
-         "To add a new row you must first delete one of your old Customized numbers",
-         MessageBox::Icon::Exclamation);
+    showOK("modZWMsg.msgMaxStammNumbers",
+           "You have reached the limit for your Customized numbers.\r\n"
+           "To add a new row you must first delete one of your old Customized numbers",
+           MessageBox::Icon::Exclamation);
 }
 
 void msgNoEmptyRow() {
-    tell("XXX.msgNoEmptyRow",
-         "The row you have selected is invalid. Please choose one with data in it.",
-         MessageBox::Icon::Information);
+    showOK("XXX.msgNoEmptyRow",
+           "The row you have selected is invalid. Please choose one with data in it.",
+           MessageBox::Icon::Information);
 }
 
 void msgNoDeleteRow() {
-    tell("XXX.msgNoDeleteRow",
-         "You have either not selected a row to delete or there is no data in the row you have "
-         "selected.\r\nPlease select a data filled row to delete before continuing",
-         MessageBox::Icon::Exclamation);
+    showOK("XXX.msgNoDeleteRow",
+           "You have either not selected a row to delete or there is no data in the row you have "
+           "selected.\r\nPlease select a data filled row to delete before continuing",
+           MessageBox::Icon::Exclamation);
 }
 
 void msgNumericOnly() {
-    tell("", inLanguage("Please enter only a Numeric value", "Bitte ein Numeric wert eingaben"),
-         MessageBox::Icon::Information);
+    showOK("", inLanguage("Please enter only a Numeric value", "Bitte ein Numeric wert eingaben"),
+           MessageBox::Icon::Information);
 }
 
 void msgEnterDate() {
-    tell("", inLanguage("Please enter a date", "Bitte geben Sie eine Datum ein"),
-         MessageBox::Icon::Information);
+    showOK("", inLanguage("Please enter a date", "Bitte geben Sie eine Datum ein"),
+           MessageBox::Icon::Information);
 }
 
 } // namespace quorvanta

@@ -32,8 +32,8 @@ constexpr Header kHeaders[] = {
 };
 
 // A line that begins with `begins` holds row `row`, behind its first `prefix` characters. The first
-// match in a section's list counts. Rows 2 to 9 have always been told by the digit alone in the one
-// section and by digit and dot in the other, and users have files that rest on it.
+// match in a section's list counts. Rows 2 to 9 have always been known by the digit alone in the
+// one section and by digit and dot in the other, and users have files that rest on it.
 struct RowLine {
     std::string_view begins;
     int row;

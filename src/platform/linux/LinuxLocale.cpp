@@ -107,7 +107,7 @@ std::string fourHexDigits(unsigned number) {
 
 unsigned languageNumber(const std::string& locale) {
     // The bits above the language's ten number the country. ICU leaves them 0 where it knows none,
-    // and all set where the script decides and isn't told.
+    // and all set where the script decides and isn't given.
     unsigned number = uloc_getLCID(locale.c_str()) & 0xFFFF;
     if (number >> 10 == 0x1F) {
         char full[ULOC_FULLNAME_CAPACITY] = {};
@@ -120,7 +120,7 @@ unsigned languageNumber(const std::string& locale) {
 
 } // namespace
 
-// What ICU tells of numbers, amounts and dates, each opened at its first use.
+// What ICU knows of numbers, amounts and dates, each opened at its first use.
 struct LinuxLocale::Formats {
     explicit Formats(const LocaleCategories& c) : categories(c) {}
 

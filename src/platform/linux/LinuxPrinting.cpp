@@ -78,7 +78,7 @@ public:
 
     std::optional<Paper> paper() const override {
         std::string name(option("media").empty() ? option("PageSize") : option("media"));
-        name.resize(std::min(name.find(','), name.size())); // the rest tells the tray
+        name.resize(std::min(name.find(','), name.size())); // the rest names the tray
         const pwg_media_t* paper = cups().paper(name.c_str());
         if (!paper)
             paper = cups().driverPaper(name.c_str());

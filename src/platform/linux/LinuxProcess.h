@@ -1,4 +1,4 @@
-// The running process: the lock that tells of another instance, the requests of the system that it
+// The running process: the lock that shows another instance, the requests of the system that it
 // end, and its end.
 #pragma once
 

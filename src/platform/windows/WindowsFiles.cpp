@@ -43,7 +43,7 @@ private:
     Handle file_;
 };
 
-// Where the links of `path` lead to, or the path itself where that can't be told.
+// Where the links of `path` lead to, or the path itself where that can't be found out.
 std::wstring linksResolved(const std::wstring& path) {
     const Handle file(CreateFileW(path.c_str(), 0,
                                   FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
