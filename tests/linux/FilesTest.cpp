@@ -2,6 +2,7 @@
 
 #include "platform/linux/LinuxSettings.h"
 
+#include <pwd.h>
 #include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -57,6 +58,15 @@ TEST_F(LinuxFiles, SettingsThatCanNotBeReadAreReportedAndNotTakenForMissingOnes)
     EXPECT_EQ(get(), "0");
     settings.save("Maker", "Title ", "system", "3");
     EXPECT_EQ(get(), "3");
+}
+
+TEST(Settings, GoToTheUsersOwnHomeAlsoWhereNobodyTellsIt) {
+    const std::string told = ::getenv("HOME") ? ::getenv("HOME") : "";
+    ::unsetenv("HOME");
+    tests::FakeHelp help;
+    platform::makePlatform(help);
+    EXPECT_STREQ(::getenv("HOME"), ::getpwuid(::getuid())->pw_dir);
+    ::setenv("HOME", told.c_str(), 1);
 }
 
 } // namespace

@@ -22,12 +22,16 @@ pid_t displayUser = 0; // the process that has the windows; 0 without any
 
 // A child that could not start another program isn't meant.
 void tellDisplayEnds() {
-    if (displayUser == ::getpid() && ::gettid() != displayUser) {
-        ::sleep(kLastMoments); // a thread of Qt's: the program's own learns of it right now too
-    } else if (displayUser == ::getpid()) {
-        displayUser = 0;
+    static bool told = false;
+    if (displayUser != ::getpid())
+        return;
+    // A thread of Qt's must not end the process while the program's own saves, which learns of the
+    // display's end right now too.
+    if (::gettid() != displayUser)
+        for (unsigned left = kLastMoments; left > 0;)
+            left = ::sleep(left);
+    else if (!std::exchange(told, true))
         toolkit::desktop().displayEnds();
-    }
 }
 
 // The library of session management would end the process with a manager that is killed, which is
