@@ -30,9 +30,15 @@ class Help(Road):
         def view():
             return program.dialog(HELP)["label", "Help page"]
 
+        def text_at(share=0):
+            left, top, _width, height = view().box
+            return view().text_from(left + 20, top + 15 + int(share * height))
+
         def at_top(line):
-            left, top = view().box[:2]
-            until(lambda: view().text_from(left + 20, top + 15).startswith(line), line)
+            until(lambda: text_at().startswith(line), line)
+
+        def heading(title):
+            until(lambda: program.dialog(HELP)["table cell", title].has("SELECTED"), title)
 
         def found():
             start, end = view().marked()
@@ -51,11 +57,16 @@ class Help(Road):
         at_top("\u00C4")
         choose_help()  # a second call keeps the reader's place
         at_top("\u00C4")
+        keys("ctrl+plus", "ctrl+plus")  # and so do larger letters
+        at_top("\u00C4")
         keys("ctrl+f", *"ball", "Return")
         until(lambda: found() == "a ball", "the word")
+        heading("A")
+        until(lambda: text_at(0.7).startswith("word") and "ball" not in text_at(0.7), "words below")
         keys("F3")
         until(lambda: found() == "e\nBall", "the word before")
         at_top("Before")
+        heading("Before")
         keys(*"room", "Return")
         until(lambda: ("label", "Not found") in program.dialog(HELP).nodes, "no word")
         keys("Escape")

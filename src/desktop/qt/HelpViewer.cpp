@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
@@ -16,6 +17,7 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -43,11 +45,18 @@ private:
     void load();
     void fillContents();
     void goTo(const QTreeWidgetItem* heading);
+    // Shows in the contents which heading the place, an offset in the text, stands under.
+    void follow(int place);
+    void zoom(int steps);
     void startFind();
     void find(QTextDocument::FindFlags direction);
     void leave();
 
+    // Shows the place that far below the top of the view, in pixels.
+    void scrollTo(const QTextCursor& place, int below);
+
     QString file_;
+    bool going_ = false; // to a heading that was chosen
     bool readable_ = false;
     QTreeWidget* contents_ = new QTreeWidget;
     QTextBrowser* page_ = new QTextBrowser;
@@ -71,6 +80,10 @@ HelpViewer::HelpViewer() {
     page_->setAccessibleName(QStringLiteral("Help page"));
     page_->setOpenExternalLinks(true);
     page_->document()->setDocumentMargin(12);
+    connect(page_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        if (!going_)
+            follow(page_->cursorForPosition({0, 0}).position());
+    });
 
     auto* panes = new QSplitter;
     panes->addWidget(contents_);
@@ -113,8 +126,8 @@ void HelpViewer::buildShortcuts() {
     on(QKeySequence::Find, [this] { startFind(); });
     on(QKeySequence::FindNext, [this] { find({}); });
     on(QKeySequence::FindPrevious, [this] { find(QTextDocument::FindBackward); });
-    on(QKeySequence::ZoomIn, [this] { page_->zoomIn(); });
-    on(QKeySequence::ZoomOut, [this] { page_->zoomOut(); });
+    on(QKeySequence::ZoomIn, [this] { zoom(1); });
+    on(QKeySequence::ZoomOut, [this] { zoom(-1); });
     on(QKeySequence::Cancel, [this] { leave(); });
 }
 
@@ -168,11 +181,33 @@ void HelpViewer::fillContents() {
 void HelpViewer::goTo(const QTreeWidgetItem* heading) {
     if (!heading)
         return;
+    const QScopedValueRollback going(going_, true);
     QTextDocument& document = *page_->document();
     const QTextBlock block = document.findBlock(heading->data(0, Qt::UserRole).toInt());
     page_->setTextCursor(QTextCursor(block));
     page_->verticalScrollBar()->setValue(
         static_cast<int>(document.documentLayout()->blockBoundingRect(block).top()));
+}
+
+void HelpViewer::follow(int place) {
+    QTreeWidgetItem* above = contents_->topLevelItem(0);
+    for (QTreeWidgetItemIterator it(contents_); *it; ++it)
+        if ((*it)->data(0, Qt::UserRole).toInt() <= place)
+            above = *it;
+    const QSignalBlocker quiet(contents_); // else the text would go to the heading
+    contents_->setCurrentItem(above);
+}
+
+void HelpViewer::zoom(int steps) {
+    const QTextCursor top = page_->cursorForPosition({0, 0});
+    const int below = page_->cursorRect(top).top();
+    page_->zoomIn(steps);
+    scrollTo(top, below);
+}
+
+void HelpViewer::scrollTo(const QTextCursor& place, int below) {
+    QScrollBar& bar = *page_->verticalScrollBar();
+    bar.setValue(bar.value() + page_->cursorRect(place).top() - below);
 }
 
 void HelpViewer::startFind() {
@@ -192,6 +227,13 @@ void HelpViewer::find(QTextDocument::FindFlags direction) {
         if (!found)
             page_->setTextCursor(place);
     }
+    // A word at the edge of the view is shown with what stands around it.
+    const int height = page_->viewport()->height();
+    const int top = page_->cursorRect().top();
+    if (found && (top < height / 5 || top > height * 4 / 5))
+        scrollTo(page_->textCursor(), height / 3);
+    if (found)
+        follow(page_->textCursor().position());
     findResult_->setText(found ? QString() : QStringLiteral("Not found"));
 }
 
