@@ -2,6 +2,8 @@
 
 #include "toolkit/Focus.h"
 
+#include <utility>
+
 namespace desktop_win32 {
 
 using toolkit::Control;
@@ -41,6 +43,8 @@ bool makeIf(Control& control, HWND parent, Make make) {
     attachPeer(control, window);
     return true;
 }
+
+bool reporting = false; // the toolkit is just told of a move of the focus
 
 ControlWindow* controlWindow(const Control& control) {
     return dynamic_cast<ControlWindow*>(windowOf(control).get());
@@ -108,7 +112,7 @@ void ControlWindow::showCaption() {
 }
 
 void ControlWindow::showLook() {
-    HFONT const now = font(control_.design, control_.FontBold, dpi());
+    HFONT const now = font(control_.font(), dpi());
     if (reinterpret_cast<HFONT>(SendMessageW(handle(), WM_GETFONT, 0, 0)) != now)
         SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(now), TRUE);
 }
@@ -177,8 +181,18 @@ LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     const LRESULT result = ObjectWindow::received(message, wParam, lParam);
     if (message == WM_SETFOCUS && !gone())
-        toolkit::Screen.focusMoved(control_);
+        reportFocus();
     return result;
+}
+
+void ControlWindow::reportFocus() {
+    const bool outer = std::exchange(reporting, true);
+    toolkit::Screen.focusMoved(control_);
+    reporting = outer;
+}
+
+bool focusMoves() {
+    return reporting;
 }
 
 Control* controlOf(HWND window) {

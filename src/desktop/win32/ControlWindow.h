@@ -48,6 +48,8 @@ protected:
     // Follows the colours and the font.
     virtual void showLook();
     virtual void place();
+    // Tells the toolkit that the control has got the focus.
+    void reportFocus();
     // Has the control painted anew, with what stands in front of it.
     void repaint();
     // Paints the control and, where it is transparent, what lies below.
@@ -61,6 +63,9 @@ private:
 
 // The control that the window, or the nearest window around it, shows; or nullptr.
 toolkit::Control* controlOf(HWND window);
+
+// Whether the toolkit is just being told of a move of the focus.
+bool focusMoves();
 
 // Makes the windows of all controls in the container, inside `parent`. Later ones stand in front.
 void makeControls(toolkit::Container& container, HWND parent);

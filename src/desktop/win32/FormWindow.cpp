@@ -49,6 +49,12 @@ void FormWindow::show() {
     SetForegroundWindow(handle());
 }
 
+void FormWindow::takeFocus() {
+    const toolkit::Control* const target = toolkit::focusTarget(form_);
+    if (const auto window = target ? windowOf(*target) : nullptr)
+        SetFocus(window->handle());
+}
+
 void FormWindow::fit() {
     const int width = pixels(form_.clientWidth, dpi());
     const int height = pixels(form_.clientHeight, dpi());
@@ -91,12 +97,9 @@ LRESULT FormWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam)
             toolkit::desktop().sessionEnds();
         return 0;
-    case WM_SETFOCUS: {
-        const toolkit::Control* const target = toolkit::focusTarget(form_);
-        if (const auto window = target ? windowOf(*target) : nullptr)
-            SetFocus(window->handle());
+    case WM_SETFOCUS:
+        takeFocus();
         return 0;
-    }
     case WM_MOVE:
         moved();
         break;

@@ -14,13 +14,17 @@ public:
     toolkit::Form& form() const { return form_; }
     void changed(toolkit::Prop which) override;
     void lookChanged() override;
-    // Makes the window visible, or brings it to the front.
+    // Makes the window visible, also one that was minimized.
     virtual void show();
+    // Puts the window in front of the others, with the focus where the form has it.
+    virtual void bringForward() { show(); }
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
     // Gives the window the size that its form asks for, and tells the form of its borders.
     void fit();
+    // Gives the focus to the control of the form that shall have it.
+    void takeFocus();
     // The window was moved: its form takes the place over.
     virtual void moved();
 

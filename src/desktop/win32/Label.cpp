@@ -20,6 +20,13 @@ public:
         return it;
     }
 
+    void changed(toolkit::Prop which) override {
+        if (which == toolkit::Prop::BackColor || which == toolkit::Prop::TextAlign)
+            repaint();
+        else
+            ControlWindow::changed(which);
+    }
+
     bool isTransparent() const override { return label_.BackColor == toolkit::kThemeColour; }
     void paintAt(HDC dc, POINT place) override;
 
@@ -47,9 +54,8 @@ protected:
 
 private:
     HFONT shownFont(int width) const {
-        return label_.shrinksText
-                   ? fittingFont(label_.design, label_.FontBold, dpi(), wide(label_.Caption), width)
-                   : font(label_.design, label_.FontBold, dpi());
+        return label_.shrinksText ? fittingFont(label_.font(), dpi(), wide(label_.Caption), width)
+                                  : font(label_.font(), dpi());
     }
     COLORREF textColour() const {
         if (label_.Enabled)

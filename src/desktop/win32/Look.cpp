@@ -1,6 +1,5 @@
 #include "desktop/win32/Look.h"
 
-#include <cmath>
 #include <map>
 #include <tuple>
 
@@ -8,20 +7,22 @@ namespace desktop_win32 {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
+double perPixel(int dpi) {
+    return toolkit::kTwipsPerInch / dpi;
+}
 
 // The bitmap font of that name has no sizes between its few: this one is drawn like it.
 const char* installedName(const std::string& design) {
     return design == "MS Sans Serif" ? "Microsoft Sans Serif" : design.c_str();
 }
 
-HFONT fontOfHeight(const toolkit::Font& design, bool bold, int height) {
+HFONT fontOfHeight(const toolkit::Font& design, int height) {
     static std::map<std::tuple<std::string, int, bool, bool, bool>, HFONT> made;
-    HFONT& font = made[{design.name, height, bold, design.italic, design.underline}];
+    HFONT& font = made[{design.name, height, design.bold, design.italic, design.underline}];
     if (!font) {
         LOGFONTW wanted{};
         wanted.lfHeight = -height;
-        wanted.lfWeight = bold ? FW_BOLD : FW_NORMAL;
+        wanted.lfWeight = design.bold ? FW_BOLD : FW_NORMAL;
         wanted.lfItalic = design.italic;
         wanted.lfUnderline = design.underline;
         wanted.lfCharSet = DEFAULT_CHARSET;
@@ -32,18 +33,14 @@ HFONT fontOfHeight(const toolkit::Font& design, bool bold, int height) {
     return font;
 }
 
-int emHeight(const toolkit::Font& design, int dpi) {
-    return static_cast<int>(std::lround(design.size * dpi / 72));
-}
-
 } // namespace
 
 int pixels(double twips, int dpi) {
-    return static_cast<int>(std::lround(twips * dpi / kTwipsPerInch));
+    return toolkit::pixels(twips, perPixel(dpi));
 }
 
 double twips(int pixels, int dpi) {
-    return pixels * kTwipsPerInch / dpi;
+    return toolkit::twips(pixels, perPixel(dpi));
 }
 
 RECT rectangle(const toolkit::Control& control, int dpi) {
@@ -74,17 +71,16 @@ COLORREF colour(toolkit::Colour bgr, int themeIndex) {
     return bgr == toolkit::kThemeColour ? GetSysColor(themeIndex) : static_cast<COLORREF>(bgr);
 }
 
-HFONT font(const toolkit::Font& design, bool bold, int dpi) {
-    return fontOfHeight(design, bold, emHeight(design, dpi));
+HFONT font(const toolkit::Font& design, int dpi) {
+    return fontOfHeight(design, toolkit::fontPixels(design, perPixel(dpi)));
 }
 
-HFONT fittingFont(const toolkit::Font& design, bool bold, int dpi, const std::wstring& text,
-                  int width) {
-    int height = emHeight(design, dpi);
-    const int smallest = height * 3 / 4;
-    while (height > smallest && extent(text, fontOfHeight(design, bold, height)).cx > width)
-        --height;
-    return fontOfHeight(design, bold, height);
+HFONT fittingFont(const toolkit::Font& design, int dpi, const std::wstring& text, int width) {
+    const auto widthAt = [&](int height) {
+        return static_cast<int>(extent(text, fontOfHeight(design, height)).cx);
+    };
+    return fontOfHeight(
+        design, toolkit::fittingHeight(toolkit::fontPixels(design, perPixel(dpi)), width, widthAt));
 }
 
 SIZE extent(const std::wstring& text, HFONT font) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/win32/System.h"
-#include "toolkit/Control.h"
+#include "toolkit/Units.h"
 
 #include <string>
 
@@ -20,11 +20,10 @@ std::string narrow(const std::wstring& text);
 // The system's number for a colour. What the user's theme has is told by its index, a COLOR_...
 COLORREF colour(toolkit::Colour bgr, int themeIndex);
 
-// A design font, its weight overridden by `bold`. It stays the desktop's.
-HFONT font(const toolkit::Font& design, bool bold, int dpi);
-// A size down to three quarters of the design's, in which the text is no wider than `width` pixels.
-HFONT fittingFont(const toolkit::Font& design, bool bold, int dpi, const std::wstring& text,
-                  int width);
+// The font stays the desktop's.
+HFONT font(const toolkit::Font& design, int dpi);
+// The font in a size in which the text is no wider than `width` pixels, if there is one.
+HFONT fittingFont(const toolkit::Font& design, int dpi, const std::wstring& text, int width);
 // How much room a text takes in a font, in pixels. Its lines end in CR LF.
 SIZE extent(const std::wstring& text, HFONT font);
 

@@ -40,7 +40,7 @@ UINT defaultButton(const MessageBox& box) {
                                     : MB_DEFBUTTON1;
 }
 
-// The system's box of Yes and No takes neither Esc nor a close box: here both answer No.
+// Esc and the close box answer as the toolkit rules it, also where the system's box takes neither.
 LRESULT CALLBACK escapable(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
                            DWORD_PTR answer) {
     if (message == WM_CLOSE || (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)) {
@@ -62,8 +62,11 @@ LRESULT CALLBACK comesUp(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_ACTIVATE && opening.box) {
         const MessageBox& box = *std::exchange(opening.box, nullptr);
         HWND const window = reinterpret_cast<HWND>(wParam);
-        if (box.buttons == MessageBox::Buttons::YesNo) {
-            SetWindowSubclass(window, escapable, 0, IDNO);
+        for (const toolkit::Button button : box.answers())
+            SetDlgItemTextW(window, button, wide(toolkit::labelOf(button)).c_str());
+        const int escape = box.escapeAnswer();
+        if (escape != 0 && escape != IDCANCEL && GetDlgItem(window, escape)) {
+            SetWindowSubclass(window, escapable, 0, static_cast<DWORD_PTR>(escape));
             EnableMenuItem(GetSystemMenu(window, FALSE), SC_CLOSE, MF_BYCOMMAND | MF_ENABLED);
         }
     }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "desktop/win32/System.h"
-#include "toolkit/Desktop.h"
+#include "toolkit/MessageBox.h"
 
 namespace desktop_win32 {
 

@@ -38,7 +38,7 @@ protected:
         focusing_ = true;
         byDefault(message, wParam, lParam);
         focusing_ = false;
-        toolkit::Screen.focusMoved(option_);
+        reportFocus();
         return 0;
     }
 

@@ -1,6 +1,5 @@
 #include "desktop/win32/FormWindow.h"
 #include "desktop/win32/Menu.h"
-#include "toolkit/Focus.h"
 
 namespace desktop_win32 {
 
@@ -24,25 +23,17 @@ public:
         return it;
     }
 
-    // The focus moves before the window does, as a box on the page in front may take it back: then
-    // that page stays in front.
     void show() override {
-        const auto keep = shared_from_this();
-        Form& form = form_;
-        Form* front = &form;
-        if (toolkit::Control* const target = toolkit::focusTarget(form)) {
-            toolkit::Screen.focusMoved(*target);
-            front = toolkit::Screen.ActiveForm();
-        }
-        if (gone())
-            return; // unloaded meanwhile
         if (IsIconic(handle()))
             SendMessageW(frame_->client(), WM_MDIRESTORE, reinterpret_cast<WPARAM>(handle()), 0);
         else
             ShowWindow(handle(), SW_SHOWNA);
-        if (const auto window = front ? windowOf(*front) : nullptr)
-            SendMessageW(frame_->client(), WM_MDIACTIVATE,
-                         reinterpret_cast<WPARAM>(window->handle()), 0);
+    }
+
+    void bringForward() override {
+        SendMessageW(frame_->client(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(handle()), 0);
+        if (!gone())
+            takeFocus();
     }
 
 protected:

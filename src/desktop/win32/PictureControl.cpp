@@ -69,9 +69,7 @@ protected:
         }
     }
     void showCaption() override {
-        const std::string& spoken =
-            control_.spokenAs.empty() ? control_.ToolTipText.get() : control_.spokenAs;
-        SetWindowTextW(handle(), wide(spoken).c_str());
+        SetWindowTextW(handle(), wide(control_.spoken()).c_str()); // all that a reader finds
     }
     void showLook() override { repaint(); }
 

@@ -1,4 +1,5 @@
 #include "desktop/win32/ControlWindow.h"
+#include "toolkit/Keyboard.h"
 
 namespace desktop_win32 {
 
@@ -11,9 +12,9 @@ public:
     static std::shared_ptr<ControlWindow> make(toolkit::TextBox& box, HWND parent) {
         const auto it = std::make_shared<TextBoxWindow>(box);
         const DWORD side = box.TextAlign == toolkit::Alignment::Right ? ES_RIGHT : ES_LEFT;
-        ControlWindow::make(it, parent, L"EDIT",
-                            WS_TABSTOP | ES_AUTOHSCROLL | side | (box.Locked ? ES_READONLY : 0),
+        ControlWindow::make(it, parent, L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL | side,
                             WS_EX_CLIENTEDGE);
+        it->changed(toolkit::Prop::Locked);
         it->showText();
         return it;
     }
@@ -22,34 +23,92 @@ public:
         if (which == toolkit::Prop::Text)
             showText();
         else if (which == toolkit::Prop::Selection)
-            SendMessageW(handle(), EM_SETSEL, static_cast<WPARAM>(box_.SelStart.get()),
-                         box_.SelStart.get() + box_.SelLength.get());
+            select();
+        else if (which == toolkit::Prop::Locked)
+            SendMessageW(handle(), EM_SETREADONLY, box_.Locked, 0);
         else
             ControlWindow::changed(which);
     }
 
     bool commanded(WPARAM wParam) override {
-        if (HIWORD(wParam) == EN_CHANGE && !showing_)
-            box_.Text.assume(narrow(shownText()));
+        if (HIWORD(wParam) != EN_CHANGE || showing_)
+            return true;
+        box_.Text.assume(narrow(shownText())); // typed, pasted, or set by a screen reader
+        if (box_.shrinksText)
+            showLook();
         return true;
     }
 
 protected:
+    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
+        // What an input method composes comes without keys.
+        if (message == WM_IME_CHAR) {
+            const std::wstring typed(1, static_cast<wchar_t>(wParam));
+            if (wide(toolkit::typeText(box_, narrow(typed))) != typed || gone())
+                return 0;
+        }
+        const bool enters = message == WM_LBUTTONDOWN && GetFocus() != handle();
+        const LRESULT result = ControlWindow::received(message, wParam, lParam);
+        if (gone())
+            return result;
+        // A press that brings the focus leaves what the program has selected when the focus came.
+        if (enters && box_.SelLength > 0) {
+            ReleaseCapture();
+            select();
+        }
+        takeSelection();
+        return result;
+    }
     void showCaption() override {}
+    void showLook() override {
+        if (!box_.shrinksText)
+            return ControlWindow::showLook();
+        RECT room{};
+        byDefault(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&room));
+        HFONT const now = fittingFont(box_.font(), dpi(), shownText(), room.right - room.left);
+        SendMessageW(handle(), WM_SETFONT, reinterpret_cast<WPARAM>(now), TRUE);
+    }
 
 private:
     void showText() {
         showing_ = true; // bytes that are no character stay as they are in the box's own text
         SetWindowTextW(handle(), wide(box_.Text).c_str());
         showing_ = false;
+        showLook();
     }
-    std::wstring shownText() const {
-        std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(handle())), L'\0');
-        GetWindowTextW(handle(), text.data(), static_cast<int>(text.size()) + 1);
+    std::wstring shownText() {
+        std::wstring text(static_cast<std::size_t>(byDefault(WM_GETTEXTLENGTH, 0, 0)), L'\0');
+        byDefault(WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()));
         return text;
     }
 
+    // The system counts a character beyond the first 65,536 as two.
+    void select() {
+        const std::u32string all = toolkit::codePoints(narrow(shownText()));
+        const auto units = [&](int characters) {
+            WPARAM count = 0;
+            for (int i = 0; i < characters && i < static_cast<int>(all.size()); ++i)
+                count += all[static_cast<std::size_t>(i)] > 0xFFFF ? 2 : 1;
+            return count;
+        };
+        const int start = box_.SelStart;
+        const WPARAM from = units(start);
+        byDefault(EM_SETSEL, from, static_cast<LPARAM>(units(start + box_.SelLength)));
+    }
+    void takeSelection() {
+        DWORD from = 0, to = 0;
+        byDefault(EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+        if (from == from_ && to == to_)
+            return;
+        from_ = from;
+        to_ = to;
+        const std::wstring text = shownText();
+        box_.SelStart.assume(toolkit::characters(narrow(text.substr(0, from))));
+        box_.SelLength.assume(toolkit::characters(narrow(text.substr(from, to - from))));
+    }
+
     toolkit::TextBox& box_;
+    DWORD from_ = 0, to_ = 0; // the selection that was taken over last
     bool showing_ = false;
 };
 

@@ -3,6 +3,7 @@
 #include "desktop/win32/Loop.h"
 #include "desktop/win32/MessageBox.h"
 
+#include <map>
 #include <memory>
 #include <utility>
 
@@ -26,8 +27,8 @@ public:
 
     // The number of the call.
     WPARAM add(std::function<void()> call) {
-        calls_.push_back(std::move(call));
-        return calls_.size() - 1;
+        calls_.emplace(++last_, std::move(call));
+        return last_;
     }
 
 protected:
@@ -35,13 +36,14 @@ protected:
         if (message != kCall)
             return Window::received(message, wParam, lParam);
         // Once is enough, also while the call runs an event loop of its own.
-        if (const auto call = std::exchange(calls_.at(wParam), nullptr))
-            call();
+        if (const auto call = calls_.extract(wParam))
+            call.mapped()();
         return 0;
     }
 
 private:
-    std::vector<std::function<void()>> calls_;
+    std::map<WPARAM, std::function<void()>> calls_;
+    WPARAM last_ = 0;
 };
 
 CallWindow& callWindow() {
@@ -90,9 +92,23 @@ void Win32Desktop::show(Form& form, bool modal) {
     const auto alone = modal ? std::dynamic_pointer_cast<TopLevelWindow>(window) : nullptr;
     if (alone)
         alone->block();
-    window->show();
+    {
+        const toolkit::TimersHeld untilShown;
+        window->show();
+    }
     if (alone)
         runLoop([&] { return alone->gone(); });
+}
+
+void Win32Desktop::bringForward(Form& form) {
+    const auto now = [keep = form.shared_from_this()] {
+        if (const auto window = windowOfForm(*keep))
+            window->bringForward();
+    };
+    if (focusMoves()) // the system goes on to activate the page to which the focus was going
+        waker(now)();
+    else
+        now();
 }
 
 void Win32Desktop::close(Form& form) {

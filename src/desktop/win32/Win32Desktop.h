@@ -11,6 +11,7 @@ class Win32Desktop : public desktop::SystemDesktop {
 public:
     void open(toolkit::Form& form) override;
     void show(toolkit::Form& form, bool modal) override;
+    void bringForward(toolkit::Form& form) override;
     void close(toolkit::Form& form) override;
     void focus(toolkit::Control& control) override;
     int messageBox(const toolkit::MessageBox& box) override;
