@@ -3,15 +3,12 @@
 #include "common/ErrorReport.h"
 #include "frame/MainCode_ZW.h"
 #include "platform/linux/LinuxProcess.h"
-#include "storage/cQuorvantaLite.h"
-#include "tests/support/DataFile.h"
-#include "tests/support/RealFiles.h"
+#include "tests/support/SaveFaults.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <csignal>
-#include <set>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,16 +17,7 @@
 
 namespace {
 
-using Names = std::set<std::string, std::less<>>;
-
-struct {
-    int position = 0; // of the call that meets the fault, counted from 1; 0 for no fault
-    int error = 0;    // of that call; 0 to be killed there
-    Names refused;    // calls that always fail, and don't count
-    int calls = 0;
-    bool unforced = false; // what was written last is not forced to the disk
-    bool renamed = false;  // nor are the names changed since
-} fault;
+using tests::fault, tests::Names, tests::Start, tests::Trial;
 
 bool meetsFault() {
     if (fault.position == 0 || ++fault.calls != fault.position)
@@ -95,13 +83,7 @@ namespace {
 
 using namespace quorvanta;
 
-const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak", kSpare = kFile + ".spare",
-                  kLabel = " WriteLottoFile";
-
-struct Start {
-    std::string name;
-    Names files = {}, refused = {};
-};
+using tests::kFile, tests::kBackup, tests::kSpare, tests::kLabel;
 
 const Start kStarts[] = {{"first run"},
                          {"second run", {kFile}},
@@ -109,48 +91,6 @@ const Start kStarts[] = {{"first run"},
                          {"file lost", {kBackup, kSpare}},
                          {"names can't change", {kFile, kBackup, kSpare}, {"renameat2"}},
                          {"no links either", {kFile, kBackup}, {"renameat2", "link"}}};
-
-// A directory as the start has it, new values to be saved, and a save under a fault.
-struct Trial {
-    tests::RealFilesPlatform system;
-    tests::ErrorBoxes boxes;
-    tests::StoredValues old, fresh;
-
-    explicit Trial(const Start& start, const std::string& text = tests::wholeFile()) {
-        fault = {.refused = start.refused};
-        for (const auto& name : start.files)
-            system.files.create(name, name == kFile ? text : tests::wholeFile());
-        old = fresh = read();
-        std::get<0>(fresh)[1] = "7;8;9;";
-        std::get<6>(fresh) = "1/2/2003";
-    }
-    // False if the work was over before the fault's position.
-    static bool underFault(void (*work)(), int position, int error) {
-        fault.position = position;
-        fault.error = error;
-        work();
-        fault.position = 0;
-        return fault.calls >= position;
-    }
-    bool save(int position = 0, int error = 0, bool displayGone = false) {
-        tests::stored() = fresh;
-        const bool reached = underFault(
-            displayGone ? saveWithoutDisplay : [] { cQuorvantaLite().WriteLottoFile(); }, position,
-            error);
-        toolkit::install(&boxes);
-        return reached;
-    }
-    static void saveWithoutDisplay() { EXPECT_THROW(EndRunWithoutDisplay(), tests::ProcessEnded); }
-    static tests::StoredValues read() {
-        tests::forgetStored();
-        cQuorvantaLite().ReadLottoFile();
-        return tests::stored();
-    }
-    bool isOldOrFresh() const {
-        const auto values = read();
-        return values == old || values == fresh;
-    }
-};
 
 TEST(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
     for (int i = 0; i < 2 * static_cast<int>(std::size(kStarts)); ++i) {

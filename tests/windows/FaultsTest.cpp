@@ -1,23 +1,12 @@
 // Saves with a fault at each call of Windows in turn. The linker puts the pointers __wrap___imp_...
 // below in the place of those by which the program's code reaches the calls.
-#include "storage/cQuorvantaLite.h"
-#include "tests/support/DataFile.h"
-#include "tests/support/RealFiles.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/SaveFaults.h"
 
 #include "platform/windows/System.h"
 
 namespace {
 
-struct {
-    int position = 0;    // of the call that meets the fault, counted from 1; 0 for no fault
-    DWORD error = 0;     // of that call; 0 for the end of the process there
-    bool halves = false; // ReplaceFileW has done the first of its two steps when it meets the fault
-    bool dead = false;   // behind its end a process does nothing more
-    int calls = 0;
-    bool unforced = false; // what was written last is not forced to the disk
-} fault;
+using tests::fault, tests::Start, tests::Trial;
 
 bool meetsFault() {
     if (fault.dead)
@@ -34,7 +23,7 @@ Result faulty(std::string_view name, Result failed, Call call) {
     fault.unforced = name == "WriteFile" || (fault.unforced && name != "FlushFileBuffers");
     if (!meetsFault())
         return call();
-    SetLastError(fault.error == 0 ? ERROR_GEN_FAILURE : fault.error);
+    SetLastError(fault.error == 0 ? ERROR_GEN_FAILURE : static_cast<DWORD>(fault.error));
     return failed;
 }
 
@@ -82,7 +71,8 @@ decltype(&WriteFile) __wrap___imp_WriteFile = faultyWriteFile;
 extern decltype(&ReplaceFileW) __real___imp_ReplaceFileW;
 static BOOL WINAPI faultyReplaceFileW(const wchar_t* path, const wchar_t* by, const wchar_t* backup,
                                       DWORD how, void* none, void* reserved) {
-    if (fault.halves && !fault.dead && fault.position != 0 && fault.calls + 1 == fault.position)
+    if (fault.refused.contains("half") && !fault.dead && fault.position != 0 &&
+        fault.calls + 1 == fault.position)
         __real___imp_MoveFileExW(path, backup, MOVEFILE_REPLACE_EXISTING);
     return faulty("ReplaceFileW", FALSE,
                   [=] { return __real___imp_ReplaceFileW(path, by, backup, how, none, reserved); });
@@ -94,56 +84,14 @@ namespace {
 
 using namespace quorvanta;
 
-const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak", kSpare = kFile + ".spare",
-                  kLabel = " WriteLottoFile";
-
-struct Start {
-    std::string name;
-    std::vector<std::string> files = {};
-    bool halves = false;
-};
+using tests::kFile, tests::kBackup, tests::kSpare, tests::kLabel;
 
 const Start kStarts[] = {{"first run"},
                          {"second run", {kFile}},
                          {"later run", {kFile, kBackup, kSpare}},
                          {"file lost", {kBackup}},
-                         {"replaced by halves", {kFile, kBackup}, true}};
-
-// A directory as the start has it, new values to be saved, and a save under a fault.
-struct Trial {
-    tests::RealFilesPlatform system;
-    tests::ErrorBoxes boxes;
-    tests::StoredValues old, fresh;
-
-    explicit Trial(const Start& start) {
-        fault = {};
-        for (const auto& name : start.files)
-            system.files.create(name, tests::wholeFile());
-        old = fresh = read();
-        std::get<0>(fresh)[1] = "7;8;9;";
-        std::get<6>(fresh) = "1/2/2003";
-        fault.halves = start.halves;
-    }
-    // False if the save was over before the fault's position.
-    bool save(int position = 0, DWORD error = 0) const {
-        tests::stored() = fresh;
-        fault.position = position;
-        fault.error = error;
-        cQuorvantaLite().WriteLottoFile();
-        fault.position = 0;
-        fault.dead = fault.unforced = false;
-        return fault.calls >= position;
-    }
-    static tests::StoredValues read() {
-        tests::forgetStored();
-        cQuorvantaLite().ReadLottoFile();
-        return tests::stored();
-    }
-    bool isOldOrFresh() const {
-        const auto values = read();
-        return values == old || values == fresh;
-    }
-};
+                         // ReplaceFileW has done the first of its two steps when it meets the fault
+                         {"replaced by halves", {kFile, kBackup}, {"half"}}};
 
 TEST(SaveFaults, EndedAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
     for (const Start& start : kStarts) {
@@ -153,6 +101,7 @@ TEST(SaveFaults, EndedAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
             Trial trial(start);
             trial.boxes.last = toolkit::Abort;
             reached = trial.save(position);
+            fault.dead = false;
             trial.boxes.takeReports(); // of what failed behind the end
             EXPECT_TRUE(trial.isOldOrFresh());
             trial.save();
@@ -177,7 +126,7 @@ TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
                                  number + ", answer " + std::to_string(answer));
                     Trial trial(start);
                     trial.boxes.last = answer;
-                    reached = trial.save(position, static_cast<DWORD>(error));
+                    reached = trial.save(position, error);
                     const auto reports = trial.boxes.takeReports();
                     for (const auto& it : reports)
                         EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel) << it;

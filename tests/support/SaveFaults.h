@@ -1,0 +1,81 @@
+// A save of the data file with a fault at one of the system's calls. Each system's test puts itself
+// in the place of the calls that its platform makes, and lets them fail as `fault` says.
+#pragma once
+
+#include "frame/MainCode_ZW.h"
+#include "storage/cQuorvantaLite.h"
+#include "tests/support/DataFile.h"
+#include "tests/support/RealFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace tests {
+
+using Names = std::set<std::string, std::less<>>;
+
+struct Fault {
+    int position = 0; // of the call that meets the fault, counted from 1; 0 for no fault
+    int error = 0;    // of that call; 0 to be killed there
+    Names refused;    // calls that always fail, and don't count
+    int calls = 0;
+    bool unforced = false; // what was written last is not forced to the disk
+    bool renamed = false;  // nor are the names changed since
+    bool dead = false;     // the process was killed, and nothing that it does has an effect
+};
+inline Fault fault;
+
+inline const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak",
+                         kSpare = kFile + ".spare", kLabel = " WriteLottoFile";
+
+struct Start {
+    std::string name;
+    Names files = {}, refused = {};
+};
+
+// A directory as the start has it, new values to be saved, and a save under a fault.
+struct Trial {
+    RealFilesPlatform system;
+    ErrorBoxes boxes;
+    StoredValues old, fresh;
+
+    explicit Trial(const Start& start, const std::string& text = wholeFile()) {
+        fault = {.refused = start.refused};
+        for (const auto& name : start.files)
+            system.files.create(name, name == kFile ? text : wholeFile());
+        old = fresh = read();
+        std::get<0>(fresh)[1] = "7;8;9;";
+        std::get<6>(fresh) = "1/2/2003";
+    }
+    // False if the work was over before the fault's position.
+    static bool underFault(void (*work)(), int position, int error) {
+        fault.position = position;
+        fault.error = error;
+        work();
+        fault.position = 0;
+        return fault.calls >= position;
+    }
+    bool save(int position = 0, int error = 0, bool displayGone = false) {
+        stored() = fresh;
+        const bool reached = underFault(
+            displayGone ? saveWithoutDisplay : [] { quorvanta::cQuorvantaLite().WriteLottoFile(); },
+            position, error);
+        toolkit::install(&boxes);
+        return reached;
+    }
+    static void saveWithoutDisplay() {
+        EXPECT_THROW(quorvanta::EndRunWithoutDisplay(), ProcessEnded);
+    }
+    static StoredValues read() {
+        forgetStored();
+        quorvanta::cQuorvantaLite().ReadLottoFile();
+        return stored();
+    }
+    bool isOldOrFresh() const {
+        const auto values = read();
+        return values == old || values == fresh;
+    }
+};
+
+} // namespace tests
