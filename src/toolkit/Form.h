@@ -42,6 +42,7 @@ public:
     bool KeyPreview = false; // the form sees a key before the control with the focus gets it
     bool Borderless = false; // no border and no title
     bool MinButton = false;  // a page can be minimized in its frame
+    bool minimized = false;  // a desktop has made an icon of the page; it takes no keys then
     Colour BackColor = kThemeColour;
 
     Control* ActiveControl = nullptr;

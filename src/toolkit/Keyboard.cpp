@@ -124,6 +124,8 @@ bool pressKey(Form& form, const KeyStroke& key) {
             entry->click();
         return true;
     }
+    if (form.minimized)
+        return false; // Esc would close a page that can't be seen
     int code = key.code;
     form.previewKeyDown(code, key.shift);
     if (code == 0 || !form.loaded())

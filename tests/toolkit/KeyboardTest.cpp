@@ -97,6 +97,10 @@ TEST_F(KeyboardTest, AKeyComesToTheFormThenToTheControlThenDoesItsWork) {
     }
     EXPECT_TRUE(comesBeforeMenus(form, {.code = L, .shift = AltDown}));
     EXPECT_FALSE(comesBeforeMenus(form, {.code = 'M', .shift = AltDown}));
+    form.minimized = true;
+    EXPECT_FALSE(pressKey(form, {.code = key::Escape})); // would close what can't be seen
+    EXPECT_TRUE(pressKey(form, {.code = F5}));           // its menu stands in the bar
+    EXPECT_EQ(form.take(), "draw");
     form.draw.Enabled = false;
     EXPECT_FALSE(comesBeforeMenus(form, {.code = F5}));
 }

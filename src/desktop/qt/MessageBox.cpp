@@ -4,6 +4,7 @@
 #include "desktop/qt/QtDesktop.h"
 #include "desktop/qt/Windows.h"
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -32,8 +33,10 @@ QMessageBox::Icon icon(MessageBox::Icon which) {
 
 int QtDesktop::messageBox(const MessageBox& box) {
     application();
+    QWidget* const below = QApplication::activeModalWidget();
     QMessageBox window(icon(box.icon), text(box.title), lines(box.text), QMessageBox::NoButton,
-                       frame());
+                       below ? below : frame());
+    window.setWindowModality(modality());
     window.setTextFormat(Qt::PlainText);
     std::map<QAbstractButton*, toolkit::Button> numbers;
     for (const toolkit::Button number : box.answers()) {

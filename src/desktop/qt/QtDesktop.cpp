@@ -87,6 +87,11 @@ FrameWindow* QtDesktop::frame() const {
     return nullptr;
 }
 
+// All windows of the program stand on the frame but the guide, which can be read on.
+Qt::WindowModality QtDesktop::modality() const {
+    return frame() ? Qt::WindowModal : Qt::ApplicationModal;
+}
+
 void QtDesktop::open(Form& form) {
     application();
     form.hWnd = ++lastHandle_;
@@ -104,7 +109,7 @@ void QtDesktop::show(Form& form, bool modal) {
         return;
     const QPointer<QWidget> window = peer->window();
     if (modal) {
-        window->setWindowModality(Qt::ApplicationModal);
+        window->setWindowModality(modality());
         window->winId();
         if (const FrameWindow* const below = frame())
             window->windowHandle()->setTransientParent(below->windowHandle());
@@ -200,6 +205,13 @@ bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
     Form* const form = formWithKeys(watched);
     if (!form)
         return false;
+    QMdiSubWindow* const page = frame() ? frame()->area()->currentSubWindow() : nullptr;
+    if (page && key.key() == Qt::Key_Minus && key.modifiers() == Qt::AltModifier) {
+        if (!override)
+            page->showSystemMenu();
+        key.accept();
+        return true;
+    }
     if (!override)
         return toolkit::pressKey(*form, keyStroke(key));
     if (!toolkit::comesBeforeMenus(*form, keyStroke(key)))

@@ -53,6 +53,7 @@ private:
     void watchDisplay();
     void showFocusOn(const toolkit::Control* control);
     FrameWindow* frame() const;
+    Qt::WindowModality modality() const;
     // The form that the keys of the window go to, or nullptr.
     static toolkit::Form* formWithKeys(const QObject* window);
 

@@ -4,12 +4,15 @@
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/Menu.h"
 #include "toolkit/Focus.h"
+#include "toolkit/Placement.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
+#include <QFontInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 
 namespace desktop_qt {
@@ -32,6 +35,49 @@ void mark(QWidget* window, Form& form) {
 // Top-level windows stand on the primary screen, which need not be the leftmost.
 QPoint screenOrigin() {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
+}
+
+toolkit::Place place(const QRect& area) {
+    return {1.0 * area.x(), 1.0 * area.y(), 1.0 * area.width(), 1.0 * area.height()};
+}
+
+QRect rectangle(const toolkit::Place& area) {
+    return QRectF(area.Left, area.Top, area.Width, area.Height).toRect();
+}
+
+// Shows a window of its own where the form wants it, but within reach on its screen. Gives the
+// place that its frame then has.
+QRect placeOnScreen(QWidget& window, const Form& form) {
+    const QRect wanted =
+        QRect(pixels(form.Left), pixels(form.Top), pixels(form.Width), pixels(form.Height))
+            .translated(screenOrigin());
+    const bool canBeResized = form.kind == Form::Kind::MDIFrame;
+    const QRect shown = rectangle(toolkit::insideArea(
+        place(wanted), place(QGuiApplication::primaryScreen()->availableGeometry()), canBeResized));
+    if (canBeResized)
+        window.resize(shown.size() - windowBorders);
+    window.move(shown.topLeft());
+    return shown;
+}
+
+// A page can't be resized, and one that stayed on top would keep the others from coming forward.
+void trimWindowMenu(const QMdiSubWindow& page) {
+    for (QAction* const entry : page.systemMenu()->actions())
+        if (entry->text() == QMdiSubWindow::tr("&Size") ||
+            entry->text() == QMdiSubWindow::tr("Ma&ximize") ||
+            entry->text() == QMdiSubWindow::tr("Stay on &Top"))
+            page.systemMenu()->removeAction(entry);
+}
+
+// A theme's font for titles can be so large that a small page's title would be cut to a letter.
+void fitTitle(QMdiSubWindow& page) {
+    QFont font = QApplication::font("QMdiSubWindowTitleBar");
+    const int room = page.width() - 3 * page.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    int height = QFontInfo(font).pixelSize();
+    do
+        font.setPixelSize(height--);
+    while (height > 8 && QFontMetrics(font).horizontalAdvance(page.windowTitle()) > room);
+    page.setFont(font);
 }
 
 void focusForm(Form& form) {
@@ -68,6 +114,11 @@ protected:
         if (property(kForm).isValid())
             form_.Unload(toolkit::FormControlMenu);
     }
+    void changeEvent(QEvent* event) override {
+        QMdiSubWindow::changeEvent(event);
+        if (event->type() == QEvent::WindowStateChange && property(kForm).isValid())
+            form_.minimized = isMinimized();
+    }
     void moveEvent(QMoveEvent* event) override {
         QMdiSubWindow::moveEvent(event);
         if (property(kForm).isValid()) {
@@ -93,11 +144,22 @@ public:
         frame_.swapMenus();
     }
 
+    void changed(Prop which) override {
+        FormPeer::changed(which);
+        if (which == Prop::Caption)
+            fitTitle(*page_);
+    }
+
     void show() override {
         if (toolkit::Screen.ActiveForm() == &form_)
             focusForm(form_); // or the page would come up with the first of a group of options
         if (page_->isMinimized())
             page_->showNormal();
+        else if (page_->isVisible())
+            page_->move(rectangle(toolkit::intoView(place(page_->geometry()),
+                                                    place(area().viewport()->rect()),
+                                                    page_->height() - pixels(form_.clientHeight)))
+                            .topLeft());
         else
             page_->show();
     }
@@ -150,8 +212,11 @@ void FormPeer::changed(Prop which) {
         return window_->setWindowTitle(text(form_.Caption));
     case Prop::Left:
     case Prop::Top:
-        return window_->move(QPoint(pixels(form_.Left), pixels(form_.Top)) +
-                             (window_->isWindow() ? screenOrigin() : QPoint()));
+        if (window_->isWindow())
+            placeOnScreen(*window_, form_);
+        else
+            window_->move(pixels(form_.Left), pixels(form_.Top));
+        return;
     default:
         return;
     }
@@ -227,17 +292,28 @@ void FrameWindow::takeGeometry() {
     Form* const form = formOf(this);
     if (!form || !isVisible())
         return;
+    const auto assume = [form](const toolkit::Place& now) {
+        form->Left.assume(now.Left);
+        form->Top.assume(now.Top);
+        form->Width.assume(now.Width);
+        form->Height.assume(now.Height);
+    };
     const QSize borders = frameGeometry().size() - size();
     if (windowBorders.isNull() && !borders.isNull() && !isMaximized()) {
         // It was placed without them: its middle stays where the program has put it.
         windowBorders = borders;
-        move(pos() - QPoint(borders.width() / 2, borders.height() / 2));
+        const double width = twips(borders.width()), height = twips(borders.height());
+        wanted_ = {form->Left - width / 2, form->Top - height / 2, form->Width + width,
+                   form->Height + height};
+        assume(wanted_);
+        shown_ = placeOnScreen(*this, *form);
+        return;
     }
-    const QPoint place = frameGeometry().topLeft() - screenOrigin();
-    form->Left.assume(twips(place.x()));
-    form->Top.assume(twips(place.y()));
-    form->Width.assume(twips(frameGeometry().width()));
-    form->Height.assume(twips(frameGeometry().height()));
+    const QRect now = frameGeometry().translated(-screenOrigin());
+    assume(frameGeometry() == shown_
+               ? wanted_ // a place within reach that the program didn't ask for isn't its own
+               : toolkit::Place{twips(now.x()), twips(now.y()), twips(now.width()),
+                                twips(now.height())});
 }
 
 std::unique_ptr<FormPeer> makeFrameWindow(Form& form) {
@@ -259,6 +335,7 @@ std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     flags.setFlag(Qt::WindowMinimizeButtonHint, form.MinButton);
     frame.area()->addSubWindow(page, flags);
+    trimWindowMenu(*page);
     page->setFixedSize(page->sizeHint());
     form.setBorders(twips(page->width()) - form.clientWidth,
                     twips(page->height()) - form.clientHeight);

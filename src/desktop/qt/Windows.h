@@ -46,6 +46,8 @@ private:
 
     QMdiArea* area_;
     QList<QAction*> menus_;
+    toolkit::Place wanted_; // where the program has put it, in twips
+    QRect shown_;           // and where it was shown instead, within reach on its screen
 };
 
 std::unique_ptr<FormPeer> makeFrameWindow(toolkit::Form& form);
