@@ -72,7 +72,7 @@ void EndApp(toolkit::Form& frm) {
     if (isEnding())
         return;
     const StageKept kept;
-    const auto keep = frm.shared_from_this(); // it is among the forms that go
+    [[maybe_unused]] const auto keep = frm.shared_from_this(); // it is among the forms that go
     save();
     failuresOff([&](auto step) {
         for (int i = toolkit::Forms.Count() - 1; i >= 0; --i)
