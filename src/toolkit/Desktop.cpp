@@ -25,6 +25,7 @@ std::unique_ptr<PrinterDevice> Desktop::newPrinterDevice() {
     throw platform::RuntimeError(platform::PrinterError);
 }
 
+// A desktop keeps the event. NOLINTNEXTLINE(performance-unnecessary-value-param)
 std::function<void()> Desktop::waker(std::function<void()> /*event*/) {
     return [] {};
 }
