@@ -115,7 +115,7 @@ bool starts(const std::string& program, const std::string& bare, int turns, cons
     tell("refused start, processor time", ours.refusedProcessor, "ms");
     tell("refused start, wall time", ours.refusedWall, "ms");
     bool kept = keeps("start, processor time against a bare window",
-                      ours.processor.median() / theirs.processor.median(), 1.3);
+                      ours.processor.median() / theirs.processor.median(), 1.2);
     kept &= keeps("refused start, processor time against a start",
                   ours.refusedProcessor.median() / ours.processor.median(), 0.5);
     kept &= keeps("refused start, wall time against a start",
@@ -134,7 +134,7 @@ bool memory(const std::string& program, const std::string& bare, int turns, cons
     tell(std::string("frame and ") + page.name + ", resident memory", ours, "MB");
     tell("bare window, resident memory", theirs, "MB");
     return keeps(std::string(page.name) + ", memory against a bare window",
-                 ours.median() / theirs.median(), 1.3);
+                 ours.median() / theirs.median(), 1.25);
 }
 
 bool idle(const std::string& program, const Page& page) {
