@@ -1,11 +1,11 @@
 // Whether the plays that the system's random generator gives are fair. Over 10 million plays of six
 // the count of every number lies within five standard deviations of its expected value, and so does
 // the chi-squared statistic of the pairs. Usage: fairness_bench [plays]
+#include "bench/Fairness.h"
 #include "frame/modConstants.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "platform/StandardRandom.h"
-#include "tests/support/Fairness.h"
 #include "tests/support/FakePlatform.h"
 
 #include <cstdlib>
@@ -24,7 +24,7 @@ int main(int count, char** arguments) {
 
     quorvanta::frmMain::the().Load();
     auto& board = quorvanta::frmMain::the().lbl1;
-    tests::PlayTally tally(quorvanta::kNumbers);
+    bench::PlayTally tally(quorvanta::kNumbers);
     std::vector<int> numbers;
     for (long i = 0; i < plays; ++i) {
         quorvanta::cLotto lotto;

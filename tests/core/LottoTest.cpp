@@ -1,6 +1,5 @@
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
-#include "tests/support/Fairness.h"
 #include "tests/support/ListPages.h"
 
 namespace {
@@ -55,23 +54,19 @@ TEST_F(LottoTest, AnActionWithoutARoutineIsKeptAndDoesNothing) {
     EXPECT_THROW(lotto.prpGrid(), platform::RuntimeError);
 }
 
-TEST_F(LottoTest, EverySetOfNumbersIsEquallyLikely) {
-    constexpr double kBound = 6; // standard deviations: a false alarm in less than 1 of a million
-    for (const auto& [action, pool] :
-         {std::pair(cLotto::Draw, 49), {cLotto::DrawFromEnabled, 20}}) {
-        for (int n = pool + 1; n <= kNumbers; ++n)
-            board(n).Enabled = false;
-        PlayTally tally(pool);
-        for (int i = 0; i < 50'000; ++i) {
-            const Numbers play = draw(kDrawn, action);
-            tally.add(play);
-            for (const int n : play)
-                board(n).ForeColor = toolkit::kBlack;
+// So every set of numbers is equally likely.
+TEST_F(LottoTest, EachNumberHasAnEqualShareOfTheRandomValuesAndWhatIsNotFreeIsDrawnAnew) {
+    for (int n = 1; n <= kNumbers; ++n)
+        for (const double place : {0.001, 0.999}) {
+            os.random.script = {static_cast<float>((n - 1 + place) / kNumbers)};
+            EXPECT_EQ(draw(1), Numbers{n});
+            board(n).ForeColor = toolkit::kBlack;
         }
-        for (int n = 1; n <= pool; ++n)
-            EXPECT_LT(std::abs(tally.deviation(n)), kBound) << n << " of " << pool;
-        EXPECT_LT(std::abs(tally.pairDeviation()), kBound) << pool;
-    }
+    for (int n = 21; n <= kNumbers; ++n)
+        board(n).Enabled = false;
+    for (const int n : {3, 21, 3, 49, 20, 1, 7, 8, 20, 9})
+        os.random.script.push_back((static_cast<float>(n) - 0.5F) / kNumbers);
+    EXPECT_EQ(draw(0, cLotto::DrawFromEnabled), (Numbers{1, 3, 7, 8, 9, 20}));
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <vector>
 
-namespace tests {
+namespace bench {
 
 // Counts the plays of six out of the numbers 1 to `pool`.
 class PlayTally {
@@ -74,4 +74,4 @@ private:
     std::vector<long> pairs_; // by the smaller number, then the larger one
 };
 
-} // namespace tests
+} // namespace bench
