@@ -1,13 +1,18 @@
 // Failures within routines, each brought about by its like: a control that can't be changed, a grid
 // without cells, a worker without what it works on.
+#include "bankroll/frmBankroll.h"
+#include "common/cLocalSettings.h"
+#include "common/frmURL.h"
 #include "frame/MDIForm1.h"
 #include "frame/MainCode_ZW.h"
 #include "lists/cFlexGrid.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "platform/LocaleItems.h"
+#include "storage/cQuorvantaLite.h"
 #include "tests/support/ListPages.h"
 
+#include <cmath>
 #include <set>
 
 namespace {
@@ -98,26 +103,44 @@ TEST_F(FailuresTest, RoutinesOfAnOpenPageReportUnderLabelsOfTheirOwn) {
 }
 
 TEST_F(FailuresTest, OtherRoutinesReportUnderLabelsOfTheirOwn) {
+    desk.last = toolkit::Abort;
+    os.locale.items.erase(platform::LOCALE_IMEASURE);
+    os.machine.broken = true;
+    gdblLoss = HUGE_VAL;
+    os.files.fault = [](const std::string& operation, const std::string& /*path*/) {
+        if (operation == "changeDirectory")
+            throw platform::RuntimeError(platform::PathNotFound);
+    };
     auto& frame = open<MDIForm1>();
     fail(frame);
     frame.Left.assume(0);
-    CenterForm(frame);
-    os.locale.items.erase(platform::LOCALE_IMEASURE);
-    WriteSystemData();
-    EXPECT_EQ(reported(), (Labels{"CenterForm", "MainCodeYQ.WriteSystemData"}));
-
+    fail(frmURL::the().Txt1);
     cLotto lotto; // without a board
     lotto.prpDrawNumber = lotto.prpRowNumber = 1;
-    for (const int action : {1, 2, 4, 5, 6, 7})
-        lotto.prpActionToDo = action;
-    EXPECT_EQ(reported(), (Labels{"cLotto.Lotto49", "cLotto.SetCmdButtons", "cLotto.SetAllButtons",
-                                  "cLotto.SetAllButtonsNoBold", "cLotto.SetCustomNumbers",
-                                  "cLotto.PlayCustomNumbers"}));
     cFlexGrid rows; // without a grid
-    for (const int action : {1, 2, 3, 4})
-        rows.prpActionToDo = action;
-    EXPECT_EQ(reported(), (Labels{"cFlexGrid.SetEmptyGrid", "cFlexGrid.DeleteGridRow",
-                                  "cFlexGrid.MoveRowsUp", "cFlexGrid.ExchangeRows"}));
+    const std::pair<std::function<void()>, Labels> routines[] = {
+        {[&] { CenterForm(frame); }, {"CenterForm"}},
+        {[&] { SetStatBarText(frame.statBar1, 2, "x"); }, {"maincode_zw.SetStatBarText"}},
+        {WriteSystemData, {"MainCodeYQ.WriteSystemData"}},
+        {[] { cLocalSettings().prpWinDirectory(); }, {"cLocalSettings.GetWindowsDir"}},
+        {[] { cLocalSettings().prpWinSysDirectory(); }, {"cLocalSettings.GetWindowsSysDir"}},
+        {[] { frmURL::the().Load(); }, {"frmURL.SetProperties"}},
+        {[] { frmBankroll::the().Load(); }, {"frmBankroll.SetFormProperties"}},
+        {[] { cQuorvantaLite().WriteLottoFile(); }, {"WriteLottoFile"}},
+        {[&] { lotto.prpActionToDo = cLotto::Draw; }, {"cLotto.Lotto49"}},
+        {[&] { lotto.prpActionToDo = cLotto::ToggleKey; }, {"cLotto.SetCmdButtons"}},
+        {[&] { lotto.prpActionToDo = cLotto::PickAll; }, {"cLotto.SetAllButtons"}},
+        {[&] { lotto.prpActionToDo = cLotto::PickNone; }, {"cLotto.SetAllButtonsNoBold"}},
+        {[&] { lotto.prpActionToDo = cLotto::ShowRow; }, {"cLotto.SetCustomNumbers"}},
+        {[&] { lotto.prpActionToDo = cLotto::DrawFromEnabled; }, {"cLotto.PlayCustomNumbers"}},
+        {[&] { rows.prpActionToDo = 1; }, {"cFlexGrid.SetEmptyGrid"}},
+        {[&] { rows.prpActionToDo = 2; }, {"cFlexGrid.DeleteGridRow"}},
+        {[&] { rows.prpActionToDo = 3; }, {"cFlexGrid.MoveRowsUp"}},
+        {[&] { rows.prpActionToDo = 4; }, {"cFlexGrid.ExchangeRows", "cFlexGrid.MoveRowsUp"}}};
+    for (const auto& [routine, labels] : routines) {
+        routine();
+        EXPECT_EQ(reported(), labels);
+    }
 }
 
 } // namespace

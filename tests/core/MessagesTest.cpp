@@ -1,15 +1,7 @@
 // Message boxes, the error box and the debug log.
-#include "bankroll/frmBankroll.h"
 #include "common/Trap.h"
-#include "common/cLocalSettings.h"
-#include "common/frmURL.h"
 #include "common/modZWMsg.h"
-#include "frame/MDIForm1.h"
-#include "frame/MainCode_ZW.h"
-#include "storage/cQuorvantaLite.h"
 #include "tests/support/ProgramTest.h"
-
-#include <cmath>
 
 namespace {
 
@@ -105,7 +97,7 @@ TEST_F(MessagesTest, TheFirstRecordOfARunBeginsANewLogAndCarriesTheVersion) {
 }
 
 TEST_F(MessagesTest, TheErrorBoxComesAlsoWhenTheLogIsLost) {
-    for (const char* failing : {"remove", "openForAppend", "writeLine", "close"}) {
+    for (const char* failing : {"remove", "openForAppend", "writeLine", "close", ""}) {
         mblnLogStarted = false;
         os.files.fault = [&](const std::string& operation, const std::string&) {
             if (operation == failing)
@@ -116,45 +108,10 @@ TEST_F(MessagesTest, TheErrorBoxComesAlsoWhenTheLogIsLost) {
         EXPECT_EQ(desk.boxes.at(0).title, "Quor Vanta ");
         EXPECT_EQ(desk.takeBoxes(), Texts{"An error has occured: -5\r\nOdd\r\nsome.Routine"});
     }
-}
-
-// A window that can be named, but neither be moved nor filled.
-struct Gone : toolkit::Peer {
-    void changed(toolkit::Prop which) override {
-        if (which != toolkit::Prop::Caption)
-            throw platform::RuntimeError(platform::OutOfMemory);
-    }
-};
-
-TEST_F(MessagesTest, EachTrapReportsUnderItsOwnLabel) {
-    os.locale.items.erase(platform::LOCALE_IMEASURE);
-    os.machine.broken = true;
-    gdblLoss = HUGE_VAL;
-    os.files.fault = [](const std::string& operation, const std::string&) {
-        if (operation == "changeDirectory")
-            throw platform::RuntimeError(platform::PathNotFound);
-    };
-    frmURL::the().attach(std::make_unique<Gone>());
-    frmURL::the().Txt1.attach(std::make_unique<Gone>());
-    toolkit::StatusBar& panels = MDIForm1::the().statBar1;
-    const std::pair<std::function<void()>, Texts> rows[] = {
-        {[&] { SetStatBarText(panels, 2, "x"); }, {"9 maincode_zw.SetStatBarText"}},
-        {[] { WriteSystemData(); }, {"13 MainCodeYQ.WriteSystemData"}},
-        {[] { cLocalSettings().prpWinDirectory(); }, {"76 cLocalSettings.GetWindowsDir"}},
-        {[] { cLocalSettings().prpWinSysDirectory(); }, {"76 cLocalSettings.GetWindowsSysDir"}},
-        {[] { frmURL::the().Load(); }, {"7 CenterForm", "7 frmURL.SetProperties"}},
-        {[] { frmBankroll::the().Load(); }, {"6 frmBankroll.SetFormProperties"}},
-        {[] { cQuorvantaLite().WriteLottoFile(); }, {"76 WriteLottoFile"}},
-    };
-    for (const auto& [routine, reports] : rows) {
-        routine();
-        EXPECT_EQ(desk.takeReports(), reports);
-    }
-    EXPECT_NE(os.files.content[kLog].find("\"WriteLottoFile\"\r\n\"Number: 76\"\r\n"),
-              std::string::npos);
     ReportUntrapped(platform::RuntimeError(platform::Overflow), "frmMain");
     EXPECT_EQ(desk.boxes[0].icon, Icon::Critical);
     EXPECT_EQ(desk.takeBoxes(), Texts{"An error has occured: 6\r\nOverflow\r\nfrmMain"});
+    EXPECT_NE(os.files.content[kLog].find("\"frmMain\"\r\n\"Number: 6\"\r\n"), std::string::npos);
 }
 
 TEST_F(MessagesTest, EachFailureHasItsDescription) {
