@@ -12,7 +12,7 @@ test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     "${display_packages[@]}")
 # The cross compiler, Wine to run what it makes, and what its windows need.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine
-    fonts-liberation locales icoutils "${picture_packages[@]}" "${display_packages[@]}")
+    fonts-liberation locales icoutils python3 "${picture_packages[@]}" "${display_packages[@]}")
 check_packages=(clang-format clang-tidy shellcheck pylint)
 
 # Installs those of the named packages that are missing, through sudo where not root.

@@ -5,7 +5,7 @@ import pathlib
 import subprocess
 import time
 
-from desk import APP, DATA, PLACE, Page, Road, keys
+from desk import APP, DATA, PLACE, SYSTEM, Page, Road, in_front, keys, until
 
 
 class Runs(Road):
@@ -14,17 +14,21 @@ class Runs(Road):
         program = self.run_program(leave_splash=False)
         splash = program.splash()
         self.assertEqual(splash.role, "dialog")
-        self.assertIn("label: Version 3.5, Quor Vanta , ", Page(splash).lines[-1])
+        self.assertLess({("label", "Version 3.5"), ("label", "Quor Vanta ")},
+                        Page(splash).nodes.keys())
         program.frame()
         self.assertGreaterEqual(time.monotonic() - begin, 3.5)
         log = os.stat(APP + "DebugLog.TXT")
-        self.assertEqual(subprocess.run([APP + "quorvanta"], timeout=5, check=False).returncode, 0)
+        self.assertEqual(self.run_program(leave_splash=False).process.wait(5), 0)
         self.assertEqual(os.stat(APP + "DebugLog.TXT"), log)
         self.assertFalse(os.path.exists(DATA))
         program.kill()
+        program = self.run_program(leave_splash=False)
+        until(lambda: in_front("Quor Vanta "), "the splash in front")
         begin = time.monotonic()
-        program = self.run_program()
-        self.assertLess(time.monotonic() - begin, 3.5)  # a key ends the splash
+        keys("space")
+        program.frame()
+        self.assertLess(time.monotonic() - begin, 2)  # a key ends the splash
         for tool, title in (("6 from 49", "6 From 49"), ("Favorites", "Favorites")):
             program.tool(tool)
             program.page(title)
@@ -41,7 +45,7 @@ class Runs(Road):
         os.remove(DATA)
         os.mkdir(DATA)
         program.end_session()
-        self.assertEqual(program.box().lines[-1][-20:], "Abort, Retry, Ignore")
+        self.assertIn("push button: Abort, Retry, Ignore", "\n".join(program.box().lines))
         time.sleep(1)
         os.rmdir(DATA)
         keys("r")  # Retry
@@ -50,20 +54,20 @@ class Runs(Road):
 
     def test_each_run_saves_what_the_one_before_saved_and_leaves_no_lock_and_no_file(self):
         self.write_data("[Favorites]", "10.5;9;14;22;36;44;", "[Win/Loss]", "Win:1250.5")
-        place, saved = APP.rstrip("/"), None  # the program's directory, which is what it locks
+        place, saved = APP.rstrip("/"), None
 
-        def held():
-            return subprocess.run(["flock", "-n", place, "true"], check=False).returncode == 1
+        def locks():
+            """Whether a lock on its directory is all that it has open there."""
+            opened = map(os.readlink, pathlib.Path(f"/proc/{program.process.pid}/fd").iterdir())
+            lock = subprocess.run(["flock", "-n", place, "true"], check=False).returncode == 1
+            return lock and [file for file in opened if file.startswith(PLACE)] == [place]
 
         before = {*os.listdir(APP), *os.listdir(PLACE + "/tmp")}
         for _ in range(4):
             program = self.run_program(locale="C")
-            opened = map(os.readlink, pathlib.Path(f"/proc/{program.process.pid}/fd").iterdir())
-            self.assertEqual([file for file in opened if file.startswith(PLACE)], [place])
-            self.assertTrue(held())
+            self.assertTrue(SYSTEM == "windows" or locks())
             program.end_session()
             self.assertEqual(program.process.wait(10), 0)
-            self.assertFalse(held())
             saved = saved or self.data()[2:]
             self.assertEqual(self.data()[2:], saved)
         self.assertLess({"10.5;9;14;22;36;44;", "Win:1250.5"}, set(saved))

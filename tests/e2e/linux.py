@@ -1,6 +1,5 @@
 """The program on Linux: its windows over the accessibility bus, as a screen reader meets them."""
 
-import os
 import signal
 import subprocess
 
@@ -73,12 +72,6 @@ def start(folder, environment):
 
 def end_session(process):
     process.send_signal(signal.SIGTERM)
-
-
-def used(process):
-    """Of the processor, in seconds."""
-    with open(f"/proc/{process.pid}/stat", encoding="utf-8") as stat:
-        return sum(map(int, stat.read().split()[13:15])) / os.sysconf("SC_CLK_TCK")
 
 
 def windows(process):

@@ -1,0 +1,142 @@
+"""The program for Windows, under Wine: its windows as tests/windows/Reader.cpp describes them."""
+
+import json
+import os
+import subprocess
+import types
+
+WINE = os.path.dirname(__file__) + "/../../scripts/with-wine"
+CLASSES = {"static": "label", "edit": "text", "toolbarwindow32": "tool bar",
+           "msctls_statusbar32": "status bar", "mdiclient": "layered pane", "#32770": "alert"}
+BUTTONS = {4: "radio button", 7: "panel", 9: "radio button"}
+ROLES = {24: "table", 25: "table column header", 26: "table row header", 29: "table cell",
+         40: "image", 41: "label", 43: "push button"}
+ROW_HEADER = 26
+SPOKEN_STATES = {"SELECTED": 2, "FOCUSED": 4}
+NO_WINDOWS = "tooltips_class32", "#32768"  # tool tips and opened menus
+
+
+class Gone(Exception):
+    """The window has gone."""
+
+
+GONE = (Gone,)
+reader = subprocess.Popen([WINE, os.environ["QUORVANTA_READER"]], text=True, encoding="utf-8",
+                          stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                          cwd=os.path.dirname(os.environ["QUORVANTA_READER"]))
+
+
+def ask(question):
+    reader.stdin.write(question + "\n")
+    reader.stdin.flush()
+    answer = json.loads(reader.stdout.readline())
+    if answer is None:
+        raise Gone
+    return answer
+
+
+def plain(text):
+    """Without the mark of its letter, and without a shortcut behind it."""
+    return text.partition("\t")[0].replace("&", "")
+
+
+class Node:
+    """A window, or a part of one that is no window. It is asked anew at each question."""
+
+    def __init__(self, window, number=None):
+        self.window, self.number = window, number
+
+    def __eq__(self, other):
+        return (self.window, self.number) == (other.window, other.number)
+
+    @property
+    def facts(self):
+        facts = ask(f"describe {self.window}")
+        return facts if self.number is None else facts["parts"][self.number]
+
+    @property
+    def role(self):
+        facts = self.facts
+        spoken = facts if self.number is not None else facts.get("spoken", {})
+        if spoken.get("role") in ROLES:
+            return ROLES[spoken["role"]]
+        if self.number is not None:
+            return spoken["role"]
+        kind = facts["class"].lower()
+        if kind == "button":
+            return BUTTONS.get(facts["style"] & 15, "push button")
+        return CLASSES.get(kind, "frame" if "menus" in facts else "dialog")
+
+    @property
+    def name(self):
+        facts = self.facts
+        name = facts.get("spoken", facts).get("name")
+        return plain(facts.get("text", "") if name is None else name)
+
+    text = property(lambda self: self.facts["text"])
+    box = property(lambda self: self.facts["box"])
+
+    def has(self, state):
+        facts = self.facts
+        states = facts.get("spoken", facts).get("state", 0)
+        if states & SPOKEN_STATES.get(state, 0):
+            return True
+        return facts.get("visible" if state == "SHOWING" else state.lower(), state == "SHOWING")
+
+    def children(self, every=False):
+        """Those on the screen, or every one."""
+        if self.number is not None:
+            return []
+        facts = self.facts
+        parts = [Node(self.window, number) for number in range(len(facts.get("parts", [])))]
+        return [node for node in parts + list(map(Node, facts["children"]))
+                if every or node.has("SHOWING")]
+
+    def width(self):
+        """Of a row of a grid, with its header."""
+        return next(number for number, part in enumerate(self.facts["parts"])
+                    if part["role"] == ROW_HEADER)
+
+    def size(self):
+        """The data rows and columns of a grid."""
+        return len(self.facts["parts"]) // self.width() - 1, self.width() - 1
+
+    def cell(self, row, column):
+        """Of a grid; row 0 and column 0 are its headers."""
+        return Node(self.window, row * self.width() + column)
+
+
+def start(folder, environment):
+    return subprocess.Popen([WINE, folder + "quorvanta.exe"], env=environment)
+
+
+def windows(process):
+    file = "Z:" + process.args[1].replace("/", "\\")
+    return [node for node in map(Node, ask("windows " + file))
+            if node.facts["class"] not in NO_WINDOWS]
+
+
+def end_session(process):
+    ask(f"end {windows(process)[0].window}")
+
+
+def part(frame, role):
+    return next(node for node in frame.children() if node.role == role)
+
+
+def pages(frame):
+    return part(frame, "layered pane").children()
+
+
+def menus(frame):
+    """The menus of the bar, with what each holds: name, states and entries."""
+    def entry(facts):
+        if facts["separator"]:
+            return "-"
+        return (plain(facts["text"]) + (" (checked)" if facts["checked"] else "")
+                + ("" if facts["enabled"] else " (grey)")
+                + (": " + ", ".join(map(entry, facts["entries"])) if facts["entries"] else ""))
+    return [(types.SimpleNamespace(**facts), entry(facts)) for facts in frame.facts["menus"]]
+
+
+ask("windows none")  # it has come up before anything is timed

@@ -1,0 +1,98 @@
+// Describes the windows of a program, as JSON, a line for each line that it reads:
+//   windows PROGRAM     the numbers of the visible windows of a program file
+//   describe NUMBER     one window; null if it has gone
+//   end NUMBER          tells the windows of the window's thread that the session ends
+#include "Reader.h"
+
+#include <oleauto.h>
+
+#include <iostream>
+#include <string>
+
+namespace {
+
+using Hook = LRESULT(CALLBACK*)(int, WPARAM, LPARAM);
+
+constexpr UINT kPatience = 5000; // milliseconds
+
+struct Search {
+    std::wstring program, found;
+};
+
+BOOL CALLBACK ifOfProgram(HWND window, LPARAM to) {
+    auto& search = *reinterpret_cast<Search*>(to);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    wchar_t file[MAX_PATH] = L"";
+    DWORD length = MAX_PATH;
+    HANDLE const handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+    QueryFullProcessImageNameW(handle, 0, file, &length);
+    CloseHandle(handle);
+    if (IsWindowVisible(window) && lstrcmpiW(file, search.program.c_str()) == 0)
+        search.found += (search.found.empty() ? L"" : L",") +
+                        std::to_wstring(reinterpret_cast<LONG_PTR>(window));
+    return TRUE;
+}
+
+std::string windows(const std::string& program) {
+    std::wstring file(MAX_PATH, L'\0');
+    file.resize(static_cast<std::size_t>(MultiByteToWideChar(
+        CP_UTF8, 0, program.data(), static_cast<int>(program.size()), file.data(), MAX_PATH)));
+    Search search{file, {}};
+    EnumWindows(ifOfProgram, reinterpret_cast<LPARAM>(&search));
+    return "[" + std::string(search.found.begin(), search.found.end()) + "]";
+}
+
+std::string describe(HWND window, HMODULE inside, const reader::Answer& answer) {
+    const auto entry =
+        reinterpret_cast<HOOKPROC>(reinterpret_cast<void*>(GetProcAddress(inside, "hook")));
+    const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+    HHOOK const hook = SetWindowsHookExW(WH_CALLWNDPROC, entry, inside, thread);
+    DWORD_PTR result = 0;
+    const_cast<volatile unsigned&>(answer.length) = 0;
+    SendMessageTimeoutW(window, reader::question(), 0, 0, SMTO_NORMAL, kPatience, &result);
+    UnhookWindowsHookEx(hook);
+    return answer.length == 0 ? "null" : std::string(answer.json, answer.length);
+}
+
+BOOL CALLBACK endSession(HWND window, LPARAM /*nothing*/) {
+    DWORD_PTR agreed = FALSE;
+    SendMessageTimeoutW(window, WM_QUERYENDSESSION, 0, 0, SMTO_NORMAL, kPatience, &agreed);
+    if (agreed)
+        PostMessageW(window, WM_ENDSESSION, TRUE, 0);
+    return TRUE;
+}
+
+} // namespace
+
+int main() {
+    // Wine keeps the description of the interface with which accessible objects are asked, but
+    // doesn't enter it.
+    ITypeLib* library = nullptr;
+    if (SUCCEEDED(LoadTypeLibEx(L"oleacc.dll", REGKIND_REGISTER, &library)))
+        library->Release();
+    HANDLE const memory = CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
+                                             sizeof(reader::Answer), reader::kAnswer);
+    auto* const answer =
+        static_cast<reader::Answer*>(MapViewOfFile(memory, FILE_MAP_ALL_ACCESS, 0, 0, 0));
+    HMODULE const inside = LoadLibraryW(L"inside.dll");
+    if (!answer || !inside)
+        return 1;
+    for (std::string line; std::getline(std::cin, line);) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        const std::size_t blank = line.find(' ');
+        const std::string what = line.substr(0, blank), of = line.substr(blank + 1);
+        if (what == "windows") {
+            std::cout << windows(of) << std::endl;
+            continue;
+        }
+        HWND const window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::stoll(of)));
+        if (what == "end")
+            std::cout << EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), endSession, 0)
+                      << std::endl;
+        else
+            std::cout << describe(window, inside, *answer) << std::endl;
+    }
+    return 0;
+}
