@@ -1,6 +1,5 @@
 #include "desktop/win32/ControlWindow.h"
 
-#include "desktop/win32/Accessible.h"
 #include "toolkit/Focus.h"
 
 #include <utility>
@@ -38,8 +37,6 @@ bool makeIf(Control& control, HWND parent, Make make) {
     if (!kind)
         return false;
     const std::shared_ptr<ControlWindow> window = make(*kind, parent);
-    if (!window)
-        return true;
     SetWindowPos(window->handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     attachPeer(control, window);
     return true;
@@ -92,8 +89,6 @@ void ControlWindow::changed(Prop which) {
         return;
     case Prop::ForeColor:
     case Prop::FontBold:
-        if (control_.speaks)
-            NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
         return showLook();
     case Prop::Left:
     case Prop::Top:
@@ -182,9 +177,6 @@ LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         if (gone() || GetFocus() != handle() || GetKeyState(VK_LBUTTON) >= 0)
             return 0;
     }
-    if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT && !speaksItself())
-        return accessibleObject(std::static_pointer_cast<ControlWindow>(shared_from_this()),
-                                wParam);
     const LRESULT result = ObjectWindow::received(message, wParam, lParam);
     if (message == WM_SETFOCUS && !gone())
         reportFocus();

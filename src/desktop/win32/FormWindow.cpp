@@ -1,6 +1,5 @@
 #include "desktop/win32/FormWindow.h"
 
-#include "desktop/win32/MessageBox.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/Focus.h"
 
@@ -46,8 +45,6 @@ void FormWindow::lookChanged() {
 }
 
 void FormWindow::show() {
-    if (showBehindBox(handle()))
-        return;
     ShowWindow(handle(), IsIconic(handle()) ? SW_RESTORE : SW_SHOW);
     SetForegroundWindow(handle());
 }

@@ -1,9 +1,284 @@
 #include "desktop/win32/ControlWindow.h"
 
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
 namespace desktop_win32 {
 
-std::shared_ptr<ControlWindow> makeMSFlexGrid(toolkit::MSFlexGrid& /*grid*/, HWND /*parent*/) {
-    return nullptr;
+namespace {
+
+using toolkit::MSFlexGrid;
+
+// Painted by the program, as the system has no table of its kind: the fixed row and column stay in
+// view, the rest is scrolled below them. The current row is the toolkit's; the window tells the
+// grid what the user did, and highlights what the grid answers.
+class MSFlexGridWindow final : public ControlWindow {
+public:
+    MSFlexGridWindow(MSFlexGrid& grid) : ControlWindow(grid), grid_(grid) {}
+
+    static std::shared_ptr<ControlWindow> make(MSFlexGrid& grid, HWND parent) {
+        const auto it = std::make_shared<MSFlexGridWindow>(grid);
+        ControlWindow::make(it, parent, nullptr, WS_TABSTOP | WS_HSCROLL | WS_VSCROLL,
+                            WS_EX_CLIENTEDGE);
+        return it;
+    }
+
+    void changed(toolkit::Prop which) override;
+    void cellChanged(int /*row*/, int /*column*/) override { repaint(); }
+    void paintAt(HDC dc, POINT place) override;
+
+protected:
+    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void showLook() override { repaint(); }
+    void place() override {
+        ControlWindow::place();
+        showBars();
+    }
+
+private:
+    // Either direction: rows from the top, or columns from the left.
+    struct Axis {
+        int bar; // SB_VERT or SB_HORZ
+        int count, fixed;
+    };
+    Axis rows() const { return {SB_VERT, grid_.rows(), grid_.FixedRows}; }
+    Axis columns() const { return {SB_HORZ, grid_.cols(), grid_.FixedCols}; }
+
+    int size(const Axis& axis, int index) const {
+        return pixels(axis.bar == SB_VERT ? grid_.RowHeight(index) : grid_.ColWidth(index), dpi());
+    }
+    int sizes(const Axis& axis, int from, int to) const {
+        int all = 0;
+        for (int i = from; i < to; ++i)
+            all += size(axis, i);
+        return all;
+    }
+    int room(const Axis& axis) const {
+        RECT all{};
+        GetClientRect(handle(), &all);
+        return axis.bar == SB_VERT ? all.bottom : all.right;
+    }
+    // Where a row or column begins, and which one is at a place; -1 for none.
+    int start(const Axis& axis, int index) const {
+        return sizes(axis, 0, index) - (index < axis.fixed ? 0 : GetScrollPos(handle(), axis.bar));
+    }
+    int at(const Axis& axis, int place) const {
+        const int fixed = sizes(axis, 0, std::min(axis.fixed, axis.count));
+        for (int i = 0; i < axis.count; ++i)
+            if (place >= start(axis, i) && place < start(axis, i) + size(axis, i) &&
+                (i < axis.fixed || place >= fixed))
+                return i;
+        return -1;
+    }
+    // The row of a data cell, 0 for a header cell, -1 for none.
+    int rowAt(LPARAM place) const {
+        const int row = at(rows(), GET_Y_LPARAM(place));
+        const int column = at(columns(), GET_X_LPARAM(place));
+        if (row < 0 || column < 0)
+            return -1;
+        return row < grid_.FixedRows || column < grid_.FixedCols ? 0 : row;
+    }
+
+    void showBars();
+    void scrollTo(const Axis& axis, int position);
+    void scroll(const Axis& axis, WORD how);
+    void showRow();
+    void paintCell(HDC dc, int row, int column, POINT place);
+    void press(UINT message, LPARAM place);
+
+    MSFlexGrid& grid_;
+    int pressed_ = -1; // the row under the button that went down
+};
+
+void MSFlexGridWindow::changed(toolkit::Prop which) {
+    switch (which) {
+    case toolkit::Prop::Rows:
+    case toolkit::Prop::ColWidth:
+    case toolkit::Prop::RowHeight:
+        showBars();
+        return repaint();
+    case toolkit::Prop::Row:
+        showRow();
+        return repaint();
+    default:
+        return ControlWindow::changed(which);
+    }
+}
+
+void MSFlexGridWindow::showBars() {
+    for (const Axis& axis : {columns(), rows(), columns()}) { // each takes room from the other
+        const int fixed = sizes(axis, 0, std::min(axis.fixed, axis.count));
+        SCROLLINFO info{};
+        info.cbSize = sizeof info;
+        info.fMask = SIF_RANGE | SIF_PAGE;
+        info.nMax = std::max(0, sizes(axis, axis.fixed, axis.count) - 1);
+        info.nPage = static_cast<UINT>(std::max(1, room(axis) - fixed));
+        SetScrollInfo(handle(), axis.bar, &info, TRUE);
+    }
+}
+
+void MSFlexGridWindow::scrollTo(const Axis& axis, int position) {
+    if (GetScrollPos(handle(), axis.bar) == SetScrollPos(handle(), axis.bar, position, TRUE) &&
+        GetScrollPos(handle(), axis.bar) == position)
+        return;
+    repaint();
+}
+
+void MSFlexGridWindow::scroll(const Axis& axis, WORD how) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(handle(), axis.bar, &info);
+    const int page = static_cast<int>(info.nPage);
+    const int line = axis.count > axis.fixed ? size(axis, axis.fixed) : 1;
+    int to = info.nPos;
+    switch (how) {
+    case SB_LINEUP:
+        to -= line;
+        break;
+    case SB_LINEDOWN:
+        to += line;
+        break;
+    case SB_PAGEUP:
+        to -= page;
+        break;
+    case SB_PAGEDOWN:
+        to += page;
+        break;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+        to = info.nTrackPos;
+        break;
+    default:
+        return;
+    }
+    scrollTo(axis, std::clamp(to, 0, std::max(0, info.nMax + 1 - page)));
+}
+
+// Brings the current row wholly into view.
+void MSFlexGridWindow::showRow() {
+    const Axis axis = rows();
+    const int row = grid_.row();
+    if (row < axis.fixed)
+        return;
+    const int fixed = sizes(axis, 0, axis.fixed);
+    const int above = start(axis, row) - fixed;
+    const int below = start(axis, row) + size(axis, row) - room(axis);
+    const int now = GetScrollPos(handle(), axis.bar);
+    if (above < 0)
+        scrollTo(axis, now + above);
+    else if (below > 0)
+        scrollTo(axis, now + std::min(below, above));
+}
+
+void MSFlexGridWindow::paintCell(HDC dc, int row, int column, POINT place) {
+    const bool header = row < grid_.FixedRows || column < grid_.FixedCols;
+    const bool chosen = !header && row == grid_.row();
+    RECT cell{place.x, place.y, place.x + size(columns(), column), place.y + size(rows(), row)};
+    const int ground = header ? COLOR_BTNFACE : chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW;
+    FillRect(dc, &cell, GetSysColorBrush(ground));
+    RECT line{cell.left, cell.bottom - 1, cell.right, cell.bottom};
+    FillRect(dc, &line, GetSysColorBrush(COLOR_BTNSHADOW));
+    line = {cell.right - 1, cell.top, cell.right, cell.bottom};
+    FillRect(dc, &line, GetSysColorBrush(COLOR_BTNSHADOW));
+    SetTextColor(dc, GetSysColor(header   ? COLOR_BTNTEXT
+                                 : chosen ? COLOR_HIGHLIGHTTEXT
+                                          : COLOR_WINDOWTEXT));
+    const std::wstring text = wide(grid_.text(row, column));
+    DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &cell,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+// The scrolled cells first: the fixed ones cover what has moved below them.
+void MSFlexGridWindow::paintAt(HDC dc, POINT place) {
+    RECT all{};
+    GetClientRect(handle(), &all);
+    OffsetRect(&all, place.x, place.y);
+    FillRect(dc, &all, GetSysColorBrush(COLOR_WINDOW));
+    SetBkMode(dc, TRANSPARENT);
+    HGDIOBJ const before = SelectObject(dc, font(grid_.font(), dpi()));
+    for (const auto& [fixedRow, fixedColumn] :
+         {std::pair{false, false}, {true, false}, {false, true}, {true, true}})
+        for (int row = 0; row < grid_.rows(); ++row)
+            for (int column = 0; column < grid_.cols(); ++column)
+                if ((row < grid_.FixedRows) == fixedRow &&
+                    (column < grid_.FixedCols) == fixedColumn)
+                    paintCell(dc, row, column,
+                              {place.x + start(columns(), column), place.y + start(rows(), row)});
+    SelectObject(dc, before);
+    if (GetFocus() == handle())
+        DrawFocusRect(dc, &all);
+}
+
+void MSFlexGridWindow::press(UINT message, LPARAM place) {
+    const int row = rowAt(place);
+    switch (message) {
+    case WM_LBUTTONDOWN:
+        pressed_ = row;
+        if (row > 0)
+            grid_.moveToRow(row);
+        return;
+    case WM_LBUTTONDBLCLK: // the second of its clicks is told as this
+        pressed_ = -1;
+        if (row > 0)
+            grid_.doubleClickRow(row);
+        return;
+    default:
+        if (const int down = std::exchange(pressed_, -1); down >= 0 && down == row)
+            grid_.clickRow(row);
+    }
+}
+
+LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_PAINT:
+        paint();
+        return 0;
+    case WM_ERASEBKGND:
+        return TRUE;
+    case WM_HSCROLL:
+        scroll(columns(), LOWORD(wParam));
+        return 0;
+    case WM_VSCROLL:
+        scroll(rows(), LOWORD(wParam));
+        return 0;
+    case WM_MOUSEWHEEL:
+        for (int i = 0; i < 3; ++i)
+            scroll(rows(), GET_WHEEL_DELTA_WPARAM(wParam) > 0 ? SB_LINEUP : SB_LINEDOWN);
+        return 0;
+    case WM_KEYDOWN: // the other keys of a grid are the toolkit's
+        if (wParam == VK_LEFT || wParam == VK_RIGHT)
+            scroll(columns(), wParam == VK_LEFT ? SB_LINEUP : SB_LINEDOWN);
+        return 0;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+        repaint();
+        break;
+    case WM_SIZE:
+        showBars();
+        break;
+    case WM_LBUTTONDOWN: {
+        ControlWindow::received(message, wParam, lParam); // the focus comes first
+        if (!gone() && GetFocus() == handle() && GetKeyState(VK_LBUTTON) < 0)
+            press(message, lParam);
+        return 0;
+    }
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+        press(message, lParam);
+        return 0;
+    default:
+        break;
+    }
+    return ControlWindow::received(message, wParam, lParam);
+}
+
+} // namespace
+
+std::shared_ptr<ControlWindow> makeMSFlexGrid(MSFlexGrid& grid, HWND parent) {
+    return MSFlexGridWindow::make(grid, parent);
 }
 
 } // namespace desktop_win32
