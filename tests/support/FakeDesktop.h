@@ -59,6 +59,8 @@ struct FakeDesktop : toolkit::Desktop {
             return last == 0 ? static_cast<int>(box.defaultAnswer()) : last;
         return std::exchange(answers, {answers.begin() + 1, answers.end()}).front();
     }
+    int loopsEnded = 0;
+    void endLoop() override { ++loopsEnded; }
     void doEvents() override {
         if (onDoEvents)
             onDoEvents();

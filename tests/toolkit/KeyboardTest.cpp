@@ -56,6 +56,7 @@ TEST_F(KeyboardTest, AKeyComesToTheFormThenToTheControlThenDoesItsWork) {
              {"box", {.code = 'A', .character = 'a'}, "down65 press97", false, "box"},
              {"box", {.code = 'X', .character = 'x'}, "down88 press120", true, "box"},
              {"box", {.code = 'Q', .character = 'q'}, "", true, "box"},
+             {"box", {.code = 'W', .character = 'w'}, "down87", true, "box"},
              {"box", {.code = 'C', .shift = CtrlDown, .copies = true}, "", false, "box"},
              {"box", {.code = key::Down}, "down40", false, "box"},
              {"box", {.code = key::Tab, .character = '\t'}, "", true, "grid"},
@@ -113,7 +114,7 @@ TEST_F(KeyboardTest, TheKeysOfAGridMoveItsRowByOneOrByWhatIsInView) {
                                       {key::End, 20}, {key::PageDown, 20}, {key::PageUp, 16},
                                       {key::Home, 1}, {key::Down, 2},      {key::PageUp, 1}};
     for (const auto& [code, row] : moves) {
-        userKey(form, code);
+        EXPECT_TRUE(userKey(form, code));
         EXPECT_EQ(form.grid.Row, row) << code;
     }
     EXPECT_EQ(form.take(), "");

@@ -54,6 +54,9 @@ TEST_F(ScreenTest, ThePageBelowComesForwardWhenAPageGoes) {
     EXPECT_EQ(front, "4210");
     EXPECT_EQ(take(), "+2f+1f"); // a page that has gone loses nothing
     EXPECT_EQ(Screen.ActiveForm(), &frame);
+    EXPECT_EQ(desk.loopsEnded, 0);
+    frame.Unload();
+    EXPECT_EQ(desk.loopsEnded, 1);
 }
 
 TEST_F(ScreenTest, APageThatTakesTheFocusBackStaysInFront) {
@@ -77,6 +80,7 @@ TEST_F(ScreenTest, AFormThatAnEventUnloadsIsToldNoMore) {
     form.second.SetFocus();
     EXPECT_EQ(take(), "");
     EXPECT_FALSE(form.loaded());
+    Screen.activated(form); // as a window tells that goes late
     EXPECT_EQ(Screen.ActiveForm(), nullptr);
 }
 
@@ -136,6 +140,9 @@ TEST_F(ScreenTest, OnlyADataRowTakesADoubleClickAndBecomesCurrent) {
         userDoubleClickRow(form.grid, row);
         EXPECT_EQ(form.take(), says) << row;
     }
+    form.picture.Enabled = false;
+    form.picture.doubleClick();
+    EXPECT_EQ(form.take(), "");
 }
 
 TEST_F(ScreenTest, NoTimerFiresWhileOneOfTheWindowsComesUp) {

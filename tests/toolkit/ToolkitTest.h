@@ -49,7 +49,10 @@ struct Page : toolkit::FormOf<Page> {
         grid.Rows = 21;
         grid.Click = [this] { tell("row" + std::to_string(grid.row())); };
         picture.DblClick = [this] { tell("double"); };
-        box.KeyDown = [this](int& code, int) { tell("down" + std::to_string(code)); };
+        box.KeyDown = [this](int& code, int) {
+            tell("down" + std::to_string(code));
+            code = code == 'W' ? 0 : code;
+        };
         box.KeyPress = [this](int& character) {
             tell("press" + std::to_string(character));
             character = character == 'x' ? 0 : character == 'y' ? 'z' : character;
