@@ -1,5 +1,6 @@
 #include "desktop/win32/ControlWindow.h"
 
+#include "desktop/win32/Accessible.h"
 #include "toolkit/Focus.h"
 
 #include <utility>
@@ -89,6 +90,8 @@ void ControlWindow::changed(Prop which) {
         return;
     case Prop::ForeColor:
     case Prop::FontBold:
+        if (control_.speaks)
+            NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
         return showLook();
     case Prop::Left:
     case Prop::Top:
@@ -177,6 +180,9 @@ LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         if (gone() || GetFocus() != handle() || GetKeyState(VK_LBUTTON) >= 0)
             return 0;
     }
+    if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT && !speaksItself())
+        return accessibleObject(std::static_pointer_cast<ControlWindow>(shared_from_this()),
+                                wParam);
     const LRESULT result = ObjectWindow::received(message, wParam, lParam);
     if (message == WM_SETFOCUS && !gone())
         reportFocus();

@@ -35,6 +35,8 @@ public:
     // What stands in front of the form's ground without a ground of its own paints what lies below
     // it too.
     virtual bool isTransparent() const { return false; }
+    // The system has objects of its own for what lies inside, such as the buttons of a toolbar.
+    virtual bool speaksItself() const { return false; }
     // Paints the control with its top left corner at the place.
     virtual void paintAt(HDC /*dc*/, POINT /*place*/) {}
 

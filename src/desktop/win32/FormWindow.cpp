@@ -1,5 +1,6 @@
 #include "desktop/win32/FormWindow.h"
 
+#include "desktop/win32/MessageBox.h"
 #include "toolkit/Desktop.h"
 #include "toolkit/Focus.h"
 
@@ -45,6 +46,8 @@ void FormWindow::lookChanged() {
 }
 
 void FormWindow::show() {
+    if (showBehindBox(handle()))
+        return;
     ShowWindow(handle(), IsIconic(handle()) ? SW_RESTORE : SW_SHOW);
     SetForegroundWindow(handle());
 }

@@ -8,6 +8,8 @@ class StatusBarWindow final : public ControlWindow {
 public:
     StatusBarWindow(toolkit::StatusBar& bar) : ControlWindow(bar), bar_(bar) {}
 
+    bool speaksItself() const override { return true; }
+
     static std::shared_ptr<ControlWindow> make(toolkit::StatusBar& bar, HWND parent) {
         const auto it = std::make_shared<StatusBarWindow>(bar);
         ControlWindow::make(it, parent, STATUSCLASSNAMEW, CCS_NORESIZE | CCS_NOPARENTALIGN);

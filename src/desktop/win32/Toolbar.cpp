@@ -12,6 +12,8 @@ public:
     ToolbarWindow(toolkit::Toolbar& bar) : ControlWindow(bar), bar_(bar) {}
     ~ToolbarWindow() override { ImageList_Destroy(images_); }
 
+    bool speaksItself() const override { return true; }
+
     static std::shared_ptr<ControlWindow> make(toolkit::Toolbar& bar, HWND parent) {
         const auto it = std::make_shared<ToolbarWindow>(bar);
         ControlWindow::make(it, parent, TOOLBARCLASSNAMEW,

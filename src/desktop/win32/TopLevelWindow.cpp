@@ -10,6 +10,7 @@ std::shared_ptr<TopLevelWindow> TopLevelWindow::make(toolkit::Form& form, HWND o
                 form.Borderless ? 0U : WS_EX_DLGMODALFRAME,
                 owner,
                 {}});
+    it->changed(toolkit::Prop::Caption);
     it->fit();
     makeControls(form, it->handle());
     return it;

@@ -64,10 +64,8 @@ std::shared_ptr<FrameWindow> frame() {
 
 // The window in front, over which the next one comes up; nullptr without any.
 HWND inFront() {
-    if (const auto around = frame())
-        return GetLastActivePopup(around->handle());
-    const auto first = toolkit::Forms.Count() > 0 ? windowOf(toolkit::Forms(0)) : nullptr;
-    return first ? first->handle() : nullptr;
+    const auto around = frame(); // a splash goes by itself, and would take with it what it owns
+    return around ? GetLastActivePopup(around->handle()) : nullptr;
 }
 
 } // namespace
