@@ -11,6 +11,7 @@
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Forms.h"
 
 #include <QApplication>
 #include <QMdiArea>
@@ -268,7 +269,7 @@ int main(int argc, char** argv) {
     // Late enough for the frame to be on the screen.
     QTimer::singleShot(500, qApp, [&] {
         kept = measure(turns);
-        toolkit::Form::dropAll();
+        tests::dropForms();
         QCoreApplication::quit();
     });
     desktop.run();

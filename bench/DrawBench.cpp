@@ -5,6 +5,7 @@
 #include "numbers/frmMain.h"
 #include "platform/StandardRandom.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Forms.h"
 
 #include <benchmark/benchmark.h>
 
@@ -78,6 +79,6 @@ int main(int count, char** arguments) {
     benchmark::Initialize(&count, arguments);
     Reporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    toolkit::Form::dropAll();
+    tests::dropForms();
     return reporter.slowest >= kPromised ? 0 : 1;
 }

@@ -7,6 +7,7 @@
 #include "numbers/frmMain.h"
 #include "platform/StandardRandom.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Forms.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -39,7 +40,7 @@ int main(int count, char** arguments) {
             }
         tally.add(numbers);
     }
-    toolkit::Form::dropAll();
+    tests::dropForms();
 
     double worst = 0;
     for (int n = 1; n <= quorvanta::kNumbers; ++n)

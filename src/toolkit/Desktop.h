@@ -27,9 +27,6 @@ public:
     // Puts a page in front of the others and the focus at its focusTarget. Where the desktop is
     // just reporting that the focus moves, it does so behind that.
     virtual void bringForward(Form& form);
-    // The form has been unloaded: takes its window away.
-    virtual void close(Form& /*form*/) {}
-
     // Moves the keyboard to the control, and reports it to Screen.focusMoved.
     virtual void focus(Control& control);
     // Has a screen reader say `text`, which concerns the control.

@@ -34,4 +34,17 @@ private:
     std::shared_ptr<const Bitmap> bitmap_;
 };
 
+// A named drawing is there in several widths, in pixels: the one to be shown at `width` is that
+// itself, else the next larger one, or beyond all the largest. 0 if `isThere(width)` holds for
+// none.
+template <class IsThere>
+int drawnWidth(int width, IsThere isThere) {
+    int found = width;
+    while (found < 4 * width && !isThere(found))
+        ++found;
+    while (found > 0 && !isThere(found))
+        --found;
+    return found;
+}
+
 } // namespace toolkit

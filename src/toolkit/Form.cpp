@@ -94,20 +94,10 @@ void Form::Unload(UnloadMode mode) {
     Form* const next = Screen.ActiveForm();
     if (wasInFront && kind == Kind::MDIChild && next && next->kind == Kind::MDIChild)
         desktop().bringForward(*next);
-    desktop().close(*this);
     dropPeers();
     forget();
     if (Forms.Count() == 0)
         desktop().endLoop();
-}
-
-void Form::dropAll() {
-    for (const auto& form : std::exchange(Forms.loaded_, {})) {
-        form->loaded_ = false;
-        Screen.forget(*form);
-        form->dropPeers();
-        form->forget();
-    }
 }
 
 void Form::unloadChildren(UnloadMode mode) {
@@ -137,10 +127,12 @@ void dropPeersOf(const std::vector<Menu*>& menus) {
 
 } // namespace
 
+// The window goes first, with all that stands in it.
 void Form::dropPeers() {
+    attach(nullptr);
+    hWnd = 0;
     dropPeersIn(*this);
     dropPeersOf(menuBar_);
-    attach(nullptr);
 }
 
 void Form::previewKeyDown(int& keyCode, int shift) {
@@ -157,6 +149,26 @@ Form& FormList::operator()(int index) const {
     if (index < 0 || index >= Count())
         throw platform::RuntimeError(platform::SubscriptOutOfRange);
     return *loaded_[static_cast<std::size_t>(index)];
+}
+
+namespace {
+
+template <class Test>
+Form* findForm(Test test) {
+    for (int i = 0; i < Forms.Count(); ++i)
+        if (test(Forms(i)))
+            return &Forms(i);
+    return nullptr;
+}
+
+} // namespace
+
+Form* FormList::frame() const {
+    return findForm([](const Form& form) { return form.kind == Form::Kind::MDIFrame; });
+}
+
+Form* FormList::withWindow(std::uintptr_t hWnd) const {
+    return findForm([=](const Form& form) { return form.hWnd == hWnd; });
 }
 
 } // namespace toolkit

@@ -9,7 +9,6 @@
 #include "toolkit/App.h"
 #include "toolkit/Controls.h"
 #include "toolkit/Desktop.h"
-#include "toolkit/MSFlexGrid.h"
 #include "toolkit/Screen.h"
 
 #include <cstdint>
@@ -60,8 +59,6 @@ public:
     // or is being unloaded already.
     void Unload(UnloadMode mode = FormCode);
     bool loaded() const { return loaded_; }
-    // Drops all loaded forms without an event, as the end of a process does.
-    static void dropAll();
 
     // The desktop has found out what its borders add to the client size.
     void setBorders(double width, double height);
@@ -123,6 +120,9 @@ public:
     int Count() const { return static_cast<int>(loaded_.size()); }
     // Raises SubscriptOutOfRange.
     Form& operator()(int index) const;
+    // nullptr without one.
+    Form* frame() const;
+    Form* withWindow(std::uintptr_t hWnd) const;
 
 private:
     friend class Form;

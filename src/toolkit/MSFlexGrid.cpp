@@ -104,8 +104,19 @@ void MSFlexGrid::clickRow(int row) {
 }
 
 void MSFlexGrid::doubleClickRow(int row) {
+    pressed_ = -1; // the click that it begins with has been told
     if (row >= FixedRows && row < rows_)
         doubleClick();
+}
+
+void MSFlexGrid::press(int row) {
+    pressed_ = row;
+    moveToRow(row);
+}
+
+void MSFlexGrid::release(int row) {
+    if (std::exchange(pressed_, -1) == row)
+        clickRow(row);
 }
 
 void MSFlexGrid::moveToRow(int row) {

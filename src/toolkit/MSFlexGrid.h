@@ -71,6 +71,12 @@ public:
     void clickRow(int row);
     void doubleClickRow(int row);
 
+    // The mouse button goes down and up on a row, 0 for a header cell, -1 beside the cells. A data
+    // row becomes current when it goes down; only where it comes up on the same row, that is a
+    // click. The second press of a double click isn't told as a press.
+    void press(int row);
+    void release(int row);
+
     // The user moves to a data row with the keyboard: it becomes current, with no Click.
     void moveToRow(int row);
 
@@ -89,6 +95,7 @@ private:
 
     int rows_ = 2, cols_ = 2;
     int row_ = 1;
+    int pressed_ = -1;                            // the row under the mouse button that is down
     std::vector<std::vector<std::string>> cells_; // by row, then column
     std::vector<int> colWidths_, rowHeights_;
 };

@@ -37,6 +37,24 @@ int characters(const std::string& text) {
     return static_cast<int>(codePoints(text).size());
 }
 
+int units(const std::string& text, int characters) {
+    int count = 0;
+    for (const char32_t it : codePoints(text).substr(0, static_cast<std::size_t>(characters)))
+        count += it < 0x10000U ? 1 : 2;
+    return count;
+}
+
+int charactersIn(const std::string& text, int units) {
+    int count = 0;
+    for (const char32_t it : codePoints(text)) {
+        units -= it < 0x10000U ? 1 : 2;
+        if (units < 0)
+            break;
+        ++count;
+    }
+    return count;
+}
+
 std::string utf8(char32_t character) {
     const auto byte = [](char32_t bits) { return static_cast<char>(bits); };
     const auto next = [&](unsigned shift) { return byte(0x80U | (character >> shift & 0x3FU)); };

@@ -11,12 +11,24 @@ public:
     using Control::Control;
 
     Property<std::string> Text{*this, Prop::Text};
-    // The selected text, in characters; a desktop that counts otherwise has to convert.
+    // The selected text, in characters.
     Property<int> SelStart{*this, Prop::Selection};
     Property<int> SelLength{*this, Prop::Selection};
     Property<Alignment> TextAlign{*this, Prop::TextAlign, Alignment::Left};
     Property<bool> Locked{*this, Prop::Locked}; // can be selected and copied, not changed
     bool shrinksText = false; // by design: a smaller font, rather than a long text cut off
+
+    // The selection in units of UTF-16, of the text as a desktop shows it.
+    struct Span {
+        int from = 0, to = 0;
+    };
+    Span selectionIn(const std::string& shown) const {
+        return {units(shown, SelStart), units(shown, SelStart + SelLength)};
+    }
+    void assumeSelection(const std::string& shown, Span selected) {
+        SelStart.assume(charactersIn(shown, selected.from));
+        SelLength.assume(charactersIn(shown, selected.to) - SelStart);
+    }
 
     bool takesKeys() const override { return true; }
 };

@@ -21,6 +21,9 @@ class Toolbar : public Control {
 public:
     using Control::Control;
 
+    // In logical pixels.
+    static constexpr int kImage = 32, kButtonWidth = 39, kButtonHeight = 38;
+
     std::vector<ToolbarButton> Buttons;
     const ImageList* Images = nullptr;
     std::function<void(const ToolbarButton& Button)> ButtonClick;

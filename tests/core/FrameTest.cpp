@@ -40,7 +40,7 @@ TEST_F(FrameTest, ARunBeginsWithTheSplashAndTheDataReadAndGoesOnWithTheEmptyFram
         int character = ' ';
         key ? splash.previewKeyPress(character) : splash.Timer1.fire();
         EXPECT_EQ(loaded(), Names{"Zephyrwick - Quor Vanta "});
-        toolkit::Form::dropAll();
+        dropForms();
     }
     EXPECT_EQ(os.random.seeds, 2);
     EXPECT_EQ(gintLanguage, 1);
@@ -98,7 +98,7 @@ TEST_F(FrameTest, EveryWayOutAsksOnceSavesOnceAndEndsUnlessTheAnswerIsNo) {
         EXPECT_EQ(desk.takeBoxes().size(), questions);
         EXPECT_EQ(std::exchange(saves, 0), 1);
         EXPECT_EQ(toolkit::Forms.Count(), 0);
-        toolkit::Form::dropAll();
+        dropForms();
     }
 }
 
@@ -111,7 +111,7 @@ TEST_F(FrameTest, TheSystemEndsTheRunAlsoUnderAnOpenQuestionAndWhileADrawYields)
     EXPECT_THROW(frame().Unload(toolkit::FormControlMenu), ProcessEnded);
     EXPECT_FALSE(std::exchange(data, "").empty());
 
-    toolkit::Form::dropAll();
+    dropForms();
     frame();
     press("customizesix");
     desk.onDoEvents = EndRunForSystem;
@@ -151,7 +151,7 @@ TEST_F(FrameTest, ARunThatEndsWhileTheSplashStandsIsSavedOnceItsDataIsRead) {
         EXPECT_THROW(Main(), ProcessEnded);
         EXPECT_EQ(data, whole);
         toolkit::install(&desk);
-        toolkit::Form::dropAll();
+        dropForms();
         desk.onBox = nullptr;
         desk.answers = {toolkit::Ignore};
         Main();
@@ -159,7 +159,7 @@ TEST_F(FrameTest, ARunThatEndsWhileTheSplashStandsIsSavedOnceItsDataIsRead) {
         EXPECT_NE(data.find("Loss:5\r\n"), std::string::npos);
         EXPECT_NE(data, whole);
         toolkit::install(&desk);
-        toolkit::Form::dropAll();
+        dropForms();
     }
     desk.boxes.clear();
 }
@@ -202,7 +202,7 @@ TEST_F(FrameTest, WithoutADisplayTheRunIsSavedOnceAndNothingIsAskedOrUnloaded) {
         EXPECT_EQ(toolkit::Forms.Count(), 2);
         desk.onBox = nullptr;
         toolkit::install(&desk);
-        toolkit::Form::dropAll();
+        dropForms();
     }
 }
 

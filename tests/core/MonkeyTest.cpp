@@ -75,7 +75,7 @@ protected:
 
     // The run ends, and the next begins with a row that somebody edited.
     void startAgain() {
-        toolkit::Form::dropAll();
+        dropForms();
         forgetStored();
         cQuorvantaLite().ReadLottoFile();
         gstrStammNumbers[1] = any<std::string>({"1;2;3;", "abc;7;8;", "50;9;9;", " ;;;", "8;"});

@@ -3,6 +3,7 @@
 #include "common/ErrorReport.h"
 #include "frame/MainCode_ZW.h"
 #include "platform/linux/LinuxProcess.h"
+#include "tests/support/Forms.h"
 #include "tests/support/SaveFaults.h"
 
 #include <gtest/gtest.h>
@@ -171,7 +172,7 @@ TEST(StartFaults, NeverHarmTheFileAndOnlyWhatWasToldIsMissingFromTheRun) {
                              ", answer " + std::to_string(answer));
                 Trial run({"later run", {kFile, kBackup}}, text);
                 run.boxes.last = answer;
-                toolkit::Form::dropAll();
+                tests::dropForms();
                 tests::forgetStored();
                 mblnLogStarted = false;
                 reached = run.underFault(Main, position, error);
@@ -190,7 +191,7 @@ TEST(StartFaults, NeverHarmTheFileAndOnlyWhatWasToldIsMissingFromTheRun) {
                                    {failed, "75 ReadLottoFile", failed, failed, failed}))
                 << "to open the file, to look at it, to read it twice and to meet its end";
         }
-    toolkit::Form::dropAll();
+    tests::dropForms();
 }
 
 // A process that starts in the directory, and stays until it is killed.

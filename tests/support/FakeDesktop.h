@@ -100,7 +100,8 @@ inline void userClick(toolkit::Control& control) {
 
 inline void userClickRow(toolkit::MSFlexGrid& grid, int row) {
     grid.SetFocus();
-    grid.clickRow(row);
+    grid.press(row);
+    grid.release(row);
 }
 
 inline void userDoubleClickRow(toolkit::MSFlexGrid& grid, int row) {

@@ -5,6 +5,7 @@
 #include "tests/support/DataFile.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Forms.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,7 @@ protected:
         };
     }
     ~ProgramTest() override {
-        toolkit::Form::dropAll();
+        dropForms();
         toolkit::Form::untrapped = nullptr;
         toolkit::Printer = {};
         toolkit::install(nullptr);

@@ -135,4 +135,19 @@ TEST_F(KeyboardTest, AnOptionThatIsSelectedTakesTheFocusFromItsGroupAlone) {
     EXPECT_EQ(form.focused(), "box");
 }
 
+TEST_F(ToolkitTest, AClickOnARowBeginsAndEndsThere) {
+    MSFlexGrid& grid = page().grid;
+    for (const auto& [pressed, released, told] :
+         {std::tuple(3, 3, "row3"), {4, 5, ""}, {-1, 4, ""}, {0, 0, "row4"}, {0, 1, ""}}) {
+        grid.press(pressed);
+        grid.release(released);
+        EXPECT_EQ(page().take(), told);
+    }
+    EXPECT_EQ(grid.row(), 4);
+    grid.press(4);
+    grid.doubleClickRow(4);
+    grid.release(4);
+    EXPECT_EQ(page().take(), "");
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 // Twips, colours, fonts and characters.
 #include "toolkit/Units.h"
+#include "toolkit/Drawing.h"
 #include "toolkit/Text.h"
 
 #include <gtest/gtest.h>
@@ -34,10 +35,23 @@ TEST(UnitsTest, CharactersAreCountedNotTheirBytes) {
         EXPECT_TRUE(codePoints(text) == expected) << text;
         EXPECT_EQ(characters(text), static_cast<int>(expected.size()));
     }
+    const auto& [text, all] = texts[0];
+    for (const auto& [count, taken] : {std::pair(0, 0), {3, 3}, {4, 5}, {9, 5}}) {
+        EXPECT_EQ(units(text, count), taken);
+        EXPECT_EQ(charactersIn(text, taken), std::min(count, 4));
+    }
+    EXPECT_EQ(charactersIn(text, 4), 3) << "half of a character";
     std::string back;
     for (const char32_t it : std::u32string(U"a\u00e9\u20ac\U0001F600"))
         back += utf8(it);
     EXPECT_EQ(back, "a\u00e9\u20ac\U0001F600");
+}
+
+TEST(UnitsTest, APictureIsTheNextLargerOneThatIsDrawn) {
+    const auto isThere = [](int width) { return width == 16 || width == 24 || width == 64; };
+    for (const auto& [width, drawn] : {std::pair(16, 16), {17, 24}, {25, 64}, {65, 64}})
+        EXPECT_EQ(drawnWidth(width, isThere), drawn);
+    EXPECT_EQ(drawnWidth(32, [](int) { return false; }), 0);
 }
 
 } // namespace

@@ -2,8 +2,8 @@
 // the user that the environment and the arguments tell.
 #include "bankroll/frmBankroll.h"
 #include "common/frmURL.h"
+#include "desktop/qt/FormWindow.h"
 #include "desktop/qt/QtDesktop.h"
-#include "desktop/qt/Windows.h"
 #include "frame/MDIForm1.h"
 #include "frame/frmAbout.h"
 #include "frame/frmSplash.h"
@@ -12,6 +12,7 @@
 #include "numbers/frmMain.h"
 #include "tests/support/DataFile.h"
 #include "tests/support/FakePlatform.h"
+#include "tests/support/Forms.h"
 
 #include <gtest/gtest.h>
 
@@ -113,7 +114,7 @@ TEST(Fit, NoTextIsCutOffAndNothingIsMirrored) {
     }
     frmCustomize6::the().statBar1.Panels(1) = "Shift mode";
     checkWindow(MDIForm1::the());
-    toolkit::Form::dropAll();
+    tests::dropForms();
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Clicks of the mouse on the cells of a grid that is shown.
 #include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/FormWindow.h"
 #include "desktop/qt/QtDesktop.h"
-#include "desktop/qt/Windows.h"
 
 #include <gtest/gtest.h>
 

@@ -24,21 +24,20 @@ protected:
 class CommandButtonPeer final : public ControlPeer {
 public:
     CommandButtonPeer(toolkit::CommandButton& button, QPushButton* widget)
-        : ControlPeer(button, widget), button_(button), widget_(widget) {
-        QObject::connect(widget, &QPushButton::clicked, &listener_, [this] { button_.click(); });
+        : ControlPeer(button, widget), widget_(widget) {
+        QObject::connect(widget, &QPushButton::clicked, &listener_, [this] { control_.click(); });
         showCaption();
     }
 
-    void showCaption() override { widget_->setText(text(button_.Caption)); }
+    void showCaption() override { widget_->setText(text(control_.Caption)); }
 
 private:
-    toolkit::CommandButton& button_;
     QPushButton* widget_;
 };
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeCommandButton(toolkit::CommandButton& button, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::CommandButton& button, QWidget* parent) {
     return std::make_unique<CommandButtonPeer>(button, new Button(parent));
 }
 

@@ -13,14 +13,6 @@ namespace {
 
 constexpr const char* kControl = "toolkitControl"; // the property that holds a widget's control
 
-template <class T, class Make>
-bool makeIf(Control& control, QWidget* parent, Make make) {
-    auto* const kind = dynamic_cast<T*>(&control);
-    if (kind)
-        control.attach(make(*kind, parent));
-    return kind != nullptr;
-}
-
 } // namespace
 
 ControlPeer::ControlPeer(Control& control, QWidget* widget) : control_(control), widget_(widget) {
@@ -96,22 +88,7 @@ void giveFocus(QWidget& widget) {
 
 void makePeers(toolkit::Container& container, QWidget* parent) {
     for (Control* control : container.controls()) {
-        if (auto* const timer = dynamic_cast<toolkit::Timer*>(control)) {
-            control->attach(makeTimer(*timer));
-            continue;
-        }
-        // A container has no null, whatever the cast says. NOLINTNEXTLINE(clang-analyzer-core.*)
-        makeIf<toolkit::Label>(*control, parent, makeLabel) ||
-            makeIf<toolkit::CommandButton>(*control, parent, makeCommandButton) ||
-            makeIf<toolkit::OptionButton>(*control, parent, makeOptionButton) ||
-            makeIf<toolkit::Frame>(*control, parent, makeFrame) ||
-            makeIf<toolkit::Image>(*control, parent, makeImage) ||
-            makeIf<toolkit::PictureBox>(*control, parent, makePictureBox) ||
-            makeIf<toolkit::Line>(*control, parent, makeLine) ||
-            makeIf<toolkit::TextBox>(*control, parent, makeTextBox) ||
-            makeIf<toolkit::StatusBar>(*control, parent, makeStatusBar) ||
-            makeIf<toolkit::Toolbar>(*control, parent, makeToolbar) ||
-            makeIf<toolkit::MSFlexGrid>(*control, parent, makeMSFlexGrid);
+        toolkit::asItsKind(*control, [&](auto& it) { it.attach(makePeer(it, parent)); });
         if (auto* const inner = dynamic_cast<toolkit::Container*>(control))
             makePeers(*inner, widgetOf(*control));
     }

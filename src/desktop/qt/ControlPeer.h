@@ -43,18 +43,18 @@ void giveFocus(QWidget& widget);
 // Makes the widgets and peers of all controls in the container, inside `parent`.
 void makePeers(toolkit::Container& container, QWidget* parent);
 
-// One a kind of control, each in a file of its own name.
-std::unique_ptr<ControlPeer> makeLabel(toolkit::Label& label, QWidget* parent);
-std::unique_ptr<ControlPeer> makeCommandButton(toolkit::CommandButton& button, QWidget* parent);
-std::unique_ptr<ControlPeer> makeOptionButton(toolkit::OptionButton& option, QWidget* parent);
-std::unique_ptr<ControlPeer> makeFrame(toolkit::Frame& frame, QWidget* parent);
-std::unique_ptr<ControlPeer> makeImage(toolkit::Image& image, QWidget* parent);
-std::unique_ptr<ControlPeer> makePictureBox(toolkit::PictureBox& box, QWidget* parent);
-std::unique_ptr<ControlPeer> makeLine(toolkit::Line& line, QWidget* parent);
-std::unique_ptr<ControlPeer> makeTextBox(toolkit::TextBox& box, QWidget* parent);
-std::unique_ptr<ControlPeer> makeStatusBar(toolkit::StatusBar& bar, QWidget* parent);
-std::unique_ptr<ControlPeer> makeToolbar(toolkit::Toolbar& bar, QWidget* parent);
-std::unique_ptr<ControlPeer> makeMSFlexGrid(toolkit::MSFlexGrid& grid, QWidget* parent);
-std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer);
+// For each kind of control, in a file of its name. Its widget stands in `parent`.
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Label& label, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::CommandButton& button, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::OptionButton& option, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Frame& frame, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Image& image, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::PictureBox& box, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Line& line, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::TextBox& box, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::StatusBar& bar, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Toolbar& bar, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::MSFlexGrid& grid, QWidget* parent);
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Timer& timer, QWidget* parent);
 
 } // namespace desktop_qt

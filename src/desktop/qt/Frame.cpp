@@ -20,7 +20,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeFrame(toolkit::Frame& frame, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Frame& frame, QWidget* parent) {
     return std::make_unique<FramePeer>(frame, new QGroupBox(parent));
 }
 

@@ -7,18 +7,14 @@ namespace desktop_qt {
 
 namespace {
 
-// On the white ground of a board: grey enough to look out of play, dark enough to be read.
-const QColor kGreyedText(0x80, 0x80, 0x80);
-const QColor kBorder(0xA0, 0xA0, 0xA0);
-
 Qt::Alignment alignment(toolkit::Alignment align) {
     switch (align) {
     case toolkit::Alignment::Right:
-        return Qt::AlignRight | Qt::AlignTop;
+        return Qt::AlignRight;
     case toolkit::Alignment::Centre:
-        return Qt::AlignHCenter | Qt::AlignTop;
+        return Qt::AlignHCenter;
     default:
-        return Qt::AlignLeft | Qt::AlignTop;
+        return Qt::AlignLeft;
     }
 }
 
@@ -28,10 +24,9 @@ public:
         : ControlPeer(label, widget), label_(label), widget_(widget) {
         widget->setTextFormat(Qt::PlainText);
         align();
-        widget->setWordWrap(!label.AutoSize && !label.BorderStyle);
-        if (label.BorderStyle) {
+        widget->setWordWrap(label.wraps());
+        if (label.BorderStyle)
             widget->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        }
         showCaption();
         showLook();
         if (label.isShadow)
@@ -58,14 +53,12 @@ public:
     void showLook() override {
         ControlPeer::showLook();
         QPalette palette;
-        if (label_.ForeColor != toolkit::kThemeColour)
-            for (const auto group : {QPalette::Active, QPalette::Inactive})
-                palette.setColor(group, QPalette::WindowText, colour(label_.ForeColor));
+        if (const toolkit::Colour ink = label_.textColour(); ink != toolkit::kThemeColour)
+            palette.setColor(QPalette::WindowText, colour(ink));
         if (label_.BackColor != toolkit::kThemeColour) {
             palette.setColor(QPalette::Window, colour(label_.BackColor));
-            palette.setColor(QPalette::Disabled, QPalette::WindowText, kGreyedText);
             for (const auto edge : {QPalette::Dark, QPalette::Light})
-                palette.setColor(edge, kBorder);
+                palette.setColor(edge, colour(toolkit::kBorder));
             widget_->setAutoFillBackground(true);
         }
         widget_->setPalette(palette);
@@ -73,7 +66,8 @@ public:
 
 private:
     void align() {
-        widget_->setAlignment(label_.BorderStyle ? Qt::AlignCenter : alignment(label_.TextAlign));
+        widget_->setAlignment(alignment(label_.shownAlign()) |
+                              (label_.BorderStyle ? Qt::AlignVCenter : Qt::AlignTop));
     }
 
     // What the smallest size doesn't fit ends in dots, and is told whole by the tooltip.
@@ -92,7 +86,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeLabel(toolkit::Label& label, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Label& label, QWidget* parent) {
     return std::make_unique<LabelPeer>(label, new QLabel(parent));
 }
 

@@ -4,7 +4,7 @@
 
 namespace desktop_qt {
 
-std::unique_ptr<ControlPeer> makeLine(toolkit::Line& line, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Line& line, QWidget* parent) {
     auto* const rule = new QFrame(parent);
     rule->setFrameStyle(QFrame::HLine | QFrame::Sunken);
     rule->setMinimumHeight(rule->sizeHint().height()); // a rule has no height of its own

@@ -1,5 +1,7 @@
 #include "desktop/qt/Look.h"
 
+#include "toolkit/Drawing.h"
+
 #include <QFontMetrics>
 #include <QIconEngine>
 #include <QPainter>
@@ -11,18 +13,6 @@ namespace {
 
 QString pictureFile(const std::string& name, int width) {
     return QStringLiteral(":/pictures/%1-%2.png").arg(text(name)).arg(width);
-}
-
-// The width, in pixels, that the picture was drawn in: this one, else the next larger one, or for
-// scales beyond all the largest. 0 if there is no such picture.
-int drawnWidth(const std::string& name, int width) {
-    const auto drawn = [&](int w) { return QResource(pictureFile(name, w)).isValid(); };
-    int found = width;
-    while (found < 2 * width && !drawn(found))
-        ++found;
-    while (found > 0 && !drawn(found))
-        --found;
-    return found;
 }
 
 class PictureEngine final : public QIconEngine {
@@ -82,7 +72,9 @@ QFont fittingFont(const toolkit::Font& design, const QString& text, int width) {
 QPixmap pixmapOf(const std::string& name, QSize size, double scale) {
     const QSize pixels = (QSizeF(size) * scale).toSize();
     // Not as a pixmap's file: Qt would keep that in its cache, a large picture that is shown once.
-    QImage image(pictureFile(name, drawnWidth(name, pixels.width())));
+    QImage image(pictureFile(name, toolkit::drawnWidth(pixels.width(), [&](int width) {
+                                 return QResource(pictureFile(name, width)).isValid();
+                             })));
     if (image.isNull())
         return {};
     if (image.size() != pixels)
@@ -94,6 +86,14 @@ QPixmap pixmapOf(const std::string& name, QSize size, double scale) {
 
 QIcon iconOf(const std::string& name) {
     return QIcon(new PictureEngine(name));
+}
+
+toolkit::Place place(const QRect& area) {
+    return {1.0 * area.x(), 1.0 * area.y(), 1.0 * area.width(), 1.0 * area.height()};
+}
+
+QRect rectangle(const toolkit::Place& area) {
+    return QRectF(area.Left, area.Top, area.Width, area.Height).toRect();
 }
 
 QRect rectangle(const toolkit::Control& control) {

@@ -37,6 +37,8 @@ QPixmap pixmapOf(const std::string& name, QSize size, double scale);
 // The same for a button or a window, which asks for its own screen's scale when it is painted.
 QIcon iconOf(const std::string& name);
 
-QRect rectangle(const toolkit::Control& control);
+toolkit::Place place(const QRect& area);
+QRect rectangle(const toolkit::Place& area);
+QRect rectangle(const toolkit::Control& control); // twips in pixels
 
 } // namespace desktop_qt

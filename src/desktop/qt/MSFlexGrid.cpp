@@ -10,9 +10,6 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include <functional>
-#include <utility>
-
 namespace desktop_qt {
 
 namespace {
@@ -63,40 +60,11 @@ private:
     MSFlexGrid& grid_;
 };
 
-// Its cells take clicks over their whole width, and a double click as one.
-class Header final : public QHeaderView {
-public:
-    Header(Qt::Orientation orientation, QWidget* parent, std::function<void()> clicked)
-        : QHeaderView(orientation, parent), clicked_(std::move(clicked)) {
-        setSectionResizeMode(QHeaderView::Fixed);
-        setMinimumSectionSize(1);
-        setDefaultAlignment(Qt::AlignCenter);
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override { pressed_ = cellAt(event); }
-    void mouseMoveEvent(QMouseEvent* /*event*/) override {}
-    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override {}
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        const int pressed = std::exchange(pressed_, -1);
-        if (pressed >= 0 && cellAt(event) == pressed)
-            clicked_();
-    }
-
-private:
-    int cellAt(const QMouseEvent* event) const {
-        return event->button() == Qt::LeftButton ? logicalIndexAt(event->position().toPoint()) : -1;
-    }
-
-    std::function<void()> clicked_;
-    int pressed_ = -1;
-};
-
 // The current row is the toolkit's, so the view doesn't select by itself: it tells the grid what
 // the user did, and highlights what the grid answers.
 class GridView final : public QTableView {
 public:
-    GridView(QWidget* parent, MSFlexGrid& grid) : QTableView(parent), grid_(&grid) {
+    explicit GridView(QWidget* parent) : QTableView(parent) {
         setSelectionMode(QAbstractItemView::SingleSelection);
         setSelectionBehavior(QAbstractItemView::SelectRows);
         setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -104,16 +72,20 @@ public:
         setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         setTabKeyNavigation(false);
         setWordWrap(false);
-        setHorizontalHeader(new Header(Qt::Horizontal, this, [this] { clickHeader(); }));
-        setVerticalHeader(new Header(Qt::Vertical, this, [this] { clickHeader(); }));
+        for (QHeaderView* const header : {horizontalHeader(), verticalHeader()}) {
+            header->setSectionResizeMode(QHeaderView::Fixed);
+            header->setMinimumSectionSize(1);
+            header->setDefaultAlignment(Qt::AlignCenter);
+            header->setHighlightSections(false);
+            header->disconnect(this, SLOT(selectRow(int)));
+            header->disconnect(this, SLOT(selectColumn(int)));
+            connect(header, &QHeaderView::sectionClicked, this, [this] { clickHeader(); });
+        }
         auto* const corner = findChild<QAbstractButton*>();
         corner->disconnect(this); // it would select all
         corner->installEventFilter(this);
         connect(corner, &QAbstractButton::clicked, this, [this] { clickHeader(); });
     }
-
-    // The grid has gone with its form.
-    void release() { grid_ = nullptr; }
 
 protected:
     // The second press of a double click is no click of its own.
@@ -122,26 +94,16 @@ protected:
                    ? event->type() == QEvent::MouseButtonDblClick
                    : QTableView::eventFilter(watched, event);
     }
-    void mousePressEvent(QMouseEvent* event) override {
-        pressed_ = rowAt(event);
-        if (grid_ && event->button() == Qt::LeftButton && pressed_ > 0)
-            grid_->moveToRow(pressed_);
+    void mousePressEvent(QMouseEvent* event) override { tell(&MSFlexGrid::press, event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { tell(&MSFlexGrid::release, event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        tell(&MSFlexGrid::doubleClickRow, event);
     }
     void mouseMoveEvent(QMouseEvent* /*event*/) override {}
     void focusInEvent(QFocusEvent* event) override {
         QTableView::focusInEvent(event);
-        if (grid_ && grid_->row() < grid_->FixedRows)
+        if (const MSFlexGrid* const it = grid(); it && it->row() < it->FixedRows)
             selectionModel()->clearCurrentIndex(); // which the view has made of its first cell
-    }
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        const int row = std::exchange(pressed_, 0);
-        if (grid_ && event->button() == Qt::LeftButton && row > 0 && rowAt(event) == row)
-            grid_->clickRow(row);
-    }
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        pressed_ = 0; // its click was told already
-        if (grid_ && event->button() == Qt::LeftButton && rowAt(event) > 0)
-            grid_->doubleClickRow(rowAt(event));
     }
     // The keys of rows are the grid's own.
     void keyPressEvent(QKeyEvent* event) override {
@@ -154,17 +116,21 @@ protected:
     }
 
 private:
+    // nullptr once it has gone with its form.
+    MSFlexGrid* grid() const { return dynamic_cast<MSFlexGrid*>(controlOf(this)); }
+
     void clickHeader() {
         setFocus(Qt::MouseFocusReason);
-        if (grid_)
-            grid_->clickRow(0);
+        if (MSFlexGrid* const it = grid())
+            it->clickRow(0);
     }
-    int rowAt(const QMouseEvent* event) const {
-        return QTableView::rowAt(event->position().toPoint().y()) + 1;
+    void tell(void (MSFlexGrid::*what)(int), const QMouseEvent* event) {
+        MSFlexGrid* const it = grid();
+        if (!it || event->button() != Qt::LeftButton)
+            return;
+        const int row = rowAt(event->position().toPoint().y());
+        (it->*what)(row < 0 ? row : row + it->FixedRows);
     }
-
-    MSFlexGrid* grid_;
-    int pressed_ = 0; // the row under the button that went down, 0 for none
 };
 
 class MSFlexGridPeer final : public ControlPeer {
@@ -176,10 +142,8 @@ public:
         showCells();
     }
     ~MSFlexGridPeer() override {
-        if (widget()) {
-            view_->release();
+        if (widget())
             view_->setModel(nullptr);
-        }
     }
 
     void changed(toolkit::Prop which) override {
@@ -257,8 +221,8 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeMSFlexGrid(MSFlexGrid& grid, QWidget* parent) {
-    return std::make_unique<MSFlexGridPeer>(grid, new GridView(parent, grid));
+std::unique_ptr<toolkit::Peer> makePeer(MSFlexGrid& grid, QWidget* parent) {
+    return std::make_unique<MSFlexGridPeer>(grid, new GridView(parent));
 }
 
 } // namespace desktop_qt

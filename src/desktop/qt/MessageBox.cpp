@@ -1,8 +1,8 @@
 #include "toolkit/MessageBox.h"
 
+#include "desktop/qt/FormWindow.h"
 #include "desktop/qt/Look.h"
 #include "desktop/qt/QtDesktop.h"
-#include "desktop/qt/Windows.h"
 
 #include <QApplication>
 #include <QMessageBox>

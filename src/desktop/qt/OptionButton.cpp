@@ -44,7 +44,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeOptionButton(toolkit::OptionButton& option, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::OptionButton& option, QWidget* parent) {
     return std::make_unique<OptionButtonPeer>(option, new RadioButton(parent));
 }
 

@@ -1,10 +1,8 @@
 #include "desktop/qt/ControlPeer.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
+#include <QtMath>
 
 #include <map>
 
@@ -98,31 +96,18 @@ public:
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton)
-            doubleClick();
-    }
-    void paintEvent(QPaintEvent* event) override {
-        PictureWidget::paintEvent(event);
-        if (!hasFocus())
-            return;
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, option);
-    }
-
-private:
-    void doubleClick() {
-        if (toolkit::Control* const control = controlOf(this))
-            control->doubleClick();
+            if (toolkit::Control* const control = controlOf(this))
+                control->doubleClick();
     }
 };
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeImage(toolkit::Image& image, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Image& image, QWidget* parent) {
     return std::make_unique<PicturePeer>(image, new PictureWidget(parent));
 }
 
-std::unique_ptr<ControlPeer> makePictureBox(toolkit::PictureBox& box, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::PictureBox& box, QWidget* parent) {
     return std::make_unique<PicturePeer>(box, new BoxWidget(parent));
 }
 

@@ -17,8 +17,6 @@ namespace desktop_qt {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
-
 [[noreturn]] void fail() {
     throw platform::RuntimeError(platform::PrinterError);
 }
@@ -56,7 +54,7 @@ QFont printed(toolkit::Font design) {
 }
 
 void draw(QPrinter& printer, const std::vector<toolkit::PrintedText>& page) {
-    const double dotsPerTwip = printer.resolution() / kTwipsPerInch;
+    const double dotsPerTwip = printer.resolution() / toolkit::kTwipsPerInch;
     QPainter painter;
     if (!painter.begin(&printer))
         fail();
@@ -85,7 +83,9 @@ private:
     QFontMetricsF metrics(const toolkit::Font& font) const {
         return {printed(font), printer_.get()};
     }
-    double twips(double dots) const { return dots * kTwipsPerInch / printer_->resolution(); }
+    double twips(double dots) const {
+        return dots * toolkit::kTwipsPerInch / printer_->resolution();
+    }
 
     std::unique_ptr<QPrinter> printer_ = open(*defaultPrinter());
 };

@@ -3,14 +3,13 @@
 #include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/FocusRing.h"
+#include "desktop/qt/FormWindow.h"
 #include "desktop/qt/HelpViewer.h"
 #include "desktop/qt/Keys.h"
 #include "desktop/qt/Printer.h"
 #include "desktop/qt/Style.h"
-#include "desktop/qt/Windows.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -80,11 +79,8 @@ void QtDesktop::showFocusOn(const Control* control) {
 }
 
 FrameWindow* QtDesktop::frame() const {
-    for (int i = 0; i < toolkit::Forms.Count(); ++i)
-        if (const auto* const peer = dynamic_cast<FormPeer*>(toolkit::Forms(i).peer()))
-            if (auto* const frame = dynamic_cast<FrameWindow*>(peer->window()))
-                return frame;
-    return nullptr;
+    const FormPeer* const peer = peerOf(toolkit::Forms.frame());
+    return peer ? dynamic_cast<FrameWindow*>(peer->window()) : nullptr;
 }
 
 // All windows of the program stand on the frame but the guide, which can be read on.
@@ -104,7 +100,7 @@ void QtDesktop::open(Form& form) {
 }
 
 void QtDesktop::show(Form& form, bool modal) {
-    auto* const peer = dynamic_cast<FormPeer*>(form.peer());
+    FormPeer* const peer = peerOf(&form);
     if (!peer)
         return;
     const QPointer<QWidget> window = peer->window();
@@ -129,7 +125,7 @@ void QtDesktop::show(Form& form, bool modal) {
 
 void QtDesktop::bringForward(Form& form) {
     const auto now = [keep = form.shared_from_this()] {
-        if (auto* const peer = dynamic_cast<FormPeer*>(keep->peer()))
+        if (FormPeer* const peer = peerOf(keep.get()))
             peer->bringForward();
     };
     if (focusMoves_) // Qt goes on to activate the page to which the focus was going
@@ -141,11 +137,6 @@ void QtDesktop::bringForward(Form& form) {
 void QtDesktop::announce(Control& control, const std::string& said) {
     if (const QWidget* const widget = widgetOf(control))
         desktop_qt::announce(*widget->window(), text(said));
-}
-
-void QtDesktop::close(Form& form) {
-    form.attach(nullptr);
-    form.hWnd = 0;
 }
 
 void QtDesktop::focus(Control& control) {
@@ -177,12 +168,8 @@ bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned comma
     if (command != platform::HELP_TAB)
         return false;
     application();
-    QWidget* owner = nullptr;
-    for (int i = 0; i < toolkit::Forms.Count(); ++i)
-        if (const auto* const peer = dynamic_cast<FormPeer*>(toolkit::Forms(i).peer()))
-            if (toolkit::Forms(i).hWnd == window)
-                owner = peer->window();
-    showHelp(owner, QString::fromUtf8(file));
+    const FormPeer* const owner = peerOf(toolkit::Forms.withWindow(window));
+    showHelp(owner ? owner->window() : nullptr, QString::fromUtf8(file));
     return true;
 }
 

@@ -39,7 +39,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeStatusBar(toolkit::StatusBar& bar, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::StatusBar& bar, QWidget* parent) {
     return std::make_unique<StatusBarPeer>(bar, new QStatusBar(parent));
 }
 

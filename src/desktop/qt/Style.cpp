@@ -69,4 +69,10 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     QProxyStyle::drawComplexControl(control, &readable, painter, widget);
 }
 
+// No header is resized with the mouse, so its cells take clicks up to their edges.
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                       const QWidget* widget) const {
+    return metric == PM_HeaderGripMargin ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 } // namespace desktop_qt

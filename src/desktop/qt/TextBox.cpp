@@ -75,9 +75,9 @@ public:
                 box_.Text.assume(now.toStdString());
         });
         QObject::connect(widget, &QLineEdit::selectionChanged, &listener_, [this] {
-            const qsizetype start = qMax(0, widget_->selectionStart());
-            box_.SelStart.assume(characters(widget_->text().first(start)));
-            box_.SelLength.assume(characters(widget_->selectedText()));
+            const int from = qMax(0, widget_->selectionStart());
+            const auto count = static_cast<int>(widget_->selectedText().size());
+            box_.assumeSelection(widget_->text().toStdString(), {from, from + count});
         });
     }
 
@@ -95,16 +95,9 @@ public:
     }
 
 private:
-    // Qt counts a character beyond the first 65,536 as two.
-    static int characters(const QString& text) { return static_cast<int>(text.toUcs4().size()); }
     void select() {
-        const auto units = [this](int from, int count) {
-            const auto part = widget_->text().toUcs4().mid(from, count);
-            return static_cast<int>(
-                QString::fromUcs4(reinterpret_cast<const char32_t*>(part.constData()), part.size())
-                    .size());
-        };
-        widget_->setSelection(units(0, box_.SelStart), units(box_.SelStart, box_.SelLength));
+        const auto [from, to] = box_.selectionIn(widget_->text().toStdString());
+        widget_->setSelection(from, to - from);
     }
 
     void align() {
@@ -141,7 +134,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeTextBox(toolkit::TextBox& box, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::TextBox& box, QWidget* parent) {
     return std::make_unique<TextBoxPeer>(box, new LineEdit(parent));
 }
 

@@ -30,7 +30,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Timer& timer, QWidget* /*parent*/) {
     return std::make_unique<TimerPeer>(timer);
 }
 

@@ -7,13 +7,10 @@ namespace desktop_qt {
 
 namespace {
 
-constexpr QSize kImageSize(32, 32);
-constexpr QSize kButtonSize(39, 38);
-
 class ToolbarPeer final : public ControlPeer {
 public:
     ToolbarPeer(toolkit::Toolbar& bar, QToolBar* widget) : ControlPeer(bar, widget) {
-        widget->setIconSize(kImageSize);
+        widget->setIconSize({bar.kImage, bar.kImage});
         widget->setMovable(false);
         widget->setContextMenuPolicy(Qt::PreventContextMenu); // it can't be hidden
         widget->setFixedHeight(pixels(bar.Height));
@@ -26,7 +23,7 @@ public:
             QAction* const action = widget->addAction(iconOf(bar.Images->ListImages.at(image)),
                                                       text(button.ToolTipText));
             action->setObjectName(text(button.Key));
-            widget->widgetForAction(action)->setFixedSize(kButtonSize);
+            widget->widgetForAction(action)->setFixedSize(bar.kButtonWidth, bar.kButtonHeight);
             QObject::connect(action, &QAction::triggered, widget,
                              [&bar, button] { bar.clickButton(button); });
         }
@@ -35,7 +32,7 @@ public:
 
 } // namespace
 
-std::unique_ptr<ControlPeer> makeToolbar(toolkit::Toolbar& bar, QWidget* parent) {
+std::unique_ptr<toolkit::Peer> makePeer(toolkit::Toolbar& bar, QWidget* parent) {
     return std::make_unique<ToolbarPeer>(bar, new QToolBar(parent));
 }
 

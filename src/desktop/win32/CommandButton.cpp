@@ -24,7 +24,7 @@ public:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeCommandButton(toolkit::CommandButton& button, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::CommandButton& button, HWND parent) {
     return CommandButtonWindow::make(button, parent);
 }
 

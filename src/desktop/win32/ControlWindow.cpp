@@ -32,15 +32,15 @@ private:
     std::shared_ptr<ObjectWindow> window_;
 };
 
-template <class T, class Make>
-bool makeIf(Control& control, HWND parent, Make make) {
-    auto* const kind = dynamic_cast<T*>(&control);
-    if (!kind)
-        return false;
-    const std::shared_ptr<ControlWindow> window = make(*kind, parent);
+void attachTo(toolkit::Timer& timer, HWND /*parent*/) {
+    timer.attach(makeTimer(timer));
+}
+
+template <class T>
+void attachTo(T& control, HWND parent) {
+    const std::shared_ptr<ControlWindow> window = makeControl(control, parent);
     SetWindowPos(window->handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     attachPeer(control, window);
-    return true;
 }
 
 bool reporting = false; // the toolkit is just told of a move of the focus
@@ -208,21 +208,7 @@ Control* controlOf(HWND window) {
 
 void makeControls(toolkit::Container& container, HWND parent) {
     for (Control* const control : container.controls()) {
-        if (auto* const timer = dynamic_cast<toolkit::Timer*>(control)) {
-            control->attach(makeTimer(*timer));
-            continue;
-        }
-        makeIf<toolkit::Label>(*control, parent, makeLabel) ||
-            makeIf<toolkit::CommandButton>(*control, parent, makeCommandButton) ||
-            makeIf<toolkit::OptionButton>(*control, parent, makeOptionButton) ||
-            makeIf<toolkit::Frame>(*control, parent, makeFrame) ||
-            makeIf<toolkit::Image>(*control, parent, makeImage) ||
-            makeIf<toolkit::PictureBox>(*control, parent, makePictureBox) ||
-            makeIf<toolkit::Line>(*control, parent, makeLine) ||
-            makeIf<toolkit::TextBox>(*control, parent, makeTextBox) ||
-            makeIf<toolkit::StatusBar>(*control, parent, makeStatusBar) ||
-            makeIf<toolkit::Toolbar>(*control, parent, makeToolbar) ||
-            makeIf<toolkit::MSFlexGrid>(*control, parent, makeMSFlexGrid);
+        toolkit::asItsKind(*control, [&](auto& it) { attachTo(it, parent); });
         if (auto* const inner = dynamic_cast<toolkit::Container*>(control))
             if (const auto window = windowOf(*control))
                 makeControls(*inner, window->handle());

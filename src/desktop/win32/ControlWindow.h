@@ -72,18 +72,18 @@ bool focusMoves();
 // Makes the windows of all controls in the container, inside `parent`. Later ones stand in front.
 void makeControls(toolkit::Container& container, HWND parent);
 
-// One a kind of control, each in a file of its own name.
-std::shared_ptr<ControlWindow> makeLabel(toolkit::Label& label, HWND parent);
-std::shared_ptr<ControlWindow> makeCommandButton(toolkit::CommandButton& button, HWND parent);
-std::shared_ptr<ControlWindow> makeOptionButton(toolkit::OptionButton& option, HWND parent);
-std::shared_ptr<ControlWindow> makeFrame(toolkit::Frame& frame, HWND parent);
-std::shared_ptr<ControlWindow> makeImage(toolkit::Image& image, HWND parent);
-std::shared_ptr<ControlWindow> makePictureBox(toolkit::PictureBox& box, HWND parent);
-std::shared_ptr<ControlWindow> makeLine(toolkit::Line& line, HWND parent);
-std::shared_ptr<ControlWindow> makeTextBox(toolkit::TextBox& box, HWND parent);
-std::shared_ptr<ControlWindow> makeStatusBar(toolkit::StatusBar& bar, HWND parent);
-std::shared_ptr<ControlWindow> makeToolbar(toolkit::Toolbar& bar, HWND parent);
-std::shared_ptr<ControlWindow> makeMSFlexGrid(toolkit::MSFlexGrid& grid, HWND parent);
+// For each kind of control, in a file of its name.
+std::shared_ptr<ControlWindow> makeControl(toolkit::Label& label, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::CommandButton& button, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::OptionButton& option, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::Frame& frame, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::Image& image, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::PictureBox& box, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::Line& line, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::TextBox& box, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::StatusBar& bar, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::Toolbar& bar, HWND parent);
+std::shared_ptr<ControlWindow> makeControl(toolkit::MSFlexGrid& grid, HWND parent);
 std::unique_ptr<toolkit::Peer> makeTimer(toolkit::Timer& timer);
 
 } // namespace desktop_win32

@@ -38,7 +38,7 @@ protected:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeFrame(toolkit::Frame& frame, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::Frame& frame, HWND parent) {
     return GroupBox::make(frame, parent);
 }
 

@@ -4,10 +4,6 @@ namespace desktop_win32 {
 
 namespace {
 
-// On the white ground of a board: grey enough to look out of play, dark enough to be read.
-constexpr COLORREF kGreyedText = RGB(0x80, 0x80, 0x80);
-constexpr COLORREF kBorder = RGB(0xA0, 0xA0, 0xA0);
-
 // The system's own label, so that readers know it for one, in the program's painting: the system's
 // knows no colours.
 class LabelWindow final : public ControlWindow {
@@ -58,9 +54,7 @@ private:
                                   : font(label_.font(), dpi());
     }
     COLORREF textColour() const {
-        if (label_.Enabled)
-            return colour(label_.ForeColor, COLOR_BTNTEXT);
-        return isTransparent() ? GetSysColor(COLOR_GRAYTEXT) : kGreyedText;
+        return colour(label_.textColour(), label_.Enabled ? COLOR_BTNTEXT : COLOR_GRAYTEXT);
     }
     UINT format() const;
 
@@ -70,12 +64,12 @@ private:
 UINT LabelWindow::format() const {
     UINT how = DT_NOPREFIX;
     if (label_.BorderStyle)
-        return how | DT_CENTER | DT_VCENTER | DT_SINGLELINE;
-    if (label_.shrinksText)
+        how |= DT_VCENTER | DT_SINGLELINE;
+    else if (label_.shrinksText)
         how |= DT_END_ELLIPSIS | DT_SINGLELINE;
-    else if (!label_.AutoSize)
+    else if (label_.wraps())
         how |= DT_WORDBREAK;
-    switch (label_.TextAlign) {
+    switch (label_.shownAlign()) {
     case toolkit::Alignment::Right:
         return how | DT_RIGHT;
     case toolkit::Alignment::Centre:
@@ -105,7 +99,7 @@ void LabelWindow::paintAt(HDC dc, POINT place) {
         FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     }
     if (label_.BorderStyle) {
-        SetDCBrushColor(dc, kBorder);
+        SetDCBrushColor(dc, static_cast<COLORREF>(toolkit::kBorder));
         FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     }
     SetBkMode(dc, TRANSPARENT);
@@ -118,7 +112,7 @@ void LabelWindow::paintAt(HDC dc, POINT place) {
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeLabel(toolkit::Label& label, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::Label& label, HWND parent) {
     return LabelWindow::make(label, parent);
 }
 

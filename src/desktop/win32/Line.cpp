@@ -25,7 +25,7 @@ protected:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeLine(toolkit::Line& line, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::Line& line, HWND parent) {
     return LineWindow::make(line, parent);
 }
 

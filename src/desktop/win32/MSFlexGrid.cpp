@@ -3,7 +3,6 @@
 #include <windowsx.h>
 
 #include <algorithm>
-#include <utility>
 
 namespace desktop_win32 {
 
@@ -89,7 +88,6 @@ private:
     void press(UINT message, LPARAM place);
 
     MSFlexGrid& grid_;
-    int pressed_ = -1; // the row under the button that went down
 };
 
 void MSFlexGridWindow::changed(toolkit::Prop which) {
@@ -214,21 +212,12 @@ void MSFlexGridWindow::paintAt(HDC dc, POINT place) {
 
 void MSFlexGridWindow::press(UINT message, LPARAM place) {
     const int row = rowAt(place);
-    switch (message) {
-    case WM_LBUTTONDOWN:
-        pressed_ = row;
-        if (row > 0)
-            grid_.moveToRow(row);
-        return;
-    case WM_LBUTTONDBLCLK: // the second of its clicks is told as this
-        pressed_ = -1;
-        if (row > 0)
-            grid_.doubleClickRow(row);
-        return;
-    default:
-        if (const int down = std::exchange(pressed_, -1); down >= 0 && down == row)
-            grid_.clickRow(row);
-    }
+    if (message == WM_LBUTTONDOWN)
+        grid_.press(row);
+    else if (message == WM_LBUTTONUP)
+        grid_.release(row);
+    else // the second press of a double click is told as this
+        grid_.doubleClickRow(row);
 }
 
 LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -277,7 +266,7 @@ LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeMSFlexGrid(MSFlexGrid& grid, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(MSFlexGrid& grid, HWND parent) {
     return MSFlexGridWindow::make(grid, parent);
 }
 

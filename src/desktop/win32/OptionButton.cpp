@@ -53,7 +53,7 @@ private:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeOptionButton(toolkit::OptionButton& option, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::OptionButton& option, HWND parent) {
     return OptionButtonWindow::make(option, parent);
 }
 

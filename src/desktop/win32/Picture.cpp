@@ -1,6 +1,7 @@
 #include "desktop/win32/Picture.h"
 
 #include "desktop/win32/Look.h"
+#include "toolkit/Drawing.h"
 
 #include <objbase.h>
 #include <shlwapi.h>
@@ -43,16 +44,6 @@ HRSRC found(const std::string& name, int width) {
     return FindResourceW(nullptr, resource.c_str(), MAKEINTRESOURCEW(10)); // RT_RCDATA
 }
 
-// Drawn in this width, else in the next larger one, or for scales beyond all in the largest.
-HRSRC drawing(const std::string& name, int width) {
-    int at = width;
-    while (at < 4 * width && !found(name, at))
-        ++at;
-    while (at > 0 && !found(name, at))
-        --at;
-    return found(name, at);
-}
-
 Held<IWICBitmapSource> decoded(HRSRC resource, SIZE size) {
     const auto* const bytes =
         static_cast<const BYTE*>(LockResource(LoadResource(nullptr, resource)));
@@ -86,7 +77,8 @@ Held<IWICBitmapSource> decoded(HRSRC resource, SIZE size) {
 } // namespace
 
 HBITMAP picture(const std::string& name, SIZE size) {
-    HRSRC const resource = drawing(name, size.cx);
+    HRSRC const resource =
+        found(name, toolkit::drawnWidth(size.cx, [&](int width) { return found(name, width); }));
     if (!resource || !factory())
         return nullptr;
     const auto source = decoded(resource, size);

@@ -140,11 +140,11 @@ protected:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeImage(toolkit::Image& image, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::Image& image, HWND parent) {
     return ImageWindow::make(image, parent);
 }
 
-std::shared_ptr<ControlWindow> makePictureBox(toolkit::PictureBox& box, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::PictureBox& box, HWND parent) {
     return PictureBoxWindow::make(box, parent);
 }
 

@@ -35,7 +35,7 @@ private:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeStatusBar(toolkit::StatusBar& bar, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::StatusBar& bar, HWND parent) {
     return StatusBarWindow::make(bar, parent);
 }
 

@@ -82,18 +82,9 @@ private:
         return text;
     }
 
-    // The system counts a character beyond the first 65,536 as two.
     void select() {
-        const std::u32string all = toolkit::codePoints(narrow(shownText()));
-        const auto units = [&](int characters) {
-            WPARAM count = 0;
-            for (int i = 0; i < characters && i < static_cast<int>(all.size()); ++i)
-                count += all[static_cast<std::size_t>(i)] > 0xFFFF ? 2 : 1;
-            return count;
-        };
-        const int start = box_.SelStart;
-        const WPARAM from = units(start);
-        byDefault(EM_SETSEL, from, static_cast<LPARAM>(units(start + box_.SelLength)));
+        const auto [from, to] = box_.selectionIn(narrow(shownText()));
+        byDefault(EM_SETSEL, static_cast<WPARAM>(from), to);
     }
     void takeSelection() {
         DWORD from = 0, to = 0;
@@ -102,9 +93,7 @@ private:
             return;
         from_ = from;
         to_ = to;
-        const std::wstring text = shownText();
-        box_.SelStart.assume(toolkit::characters(narrow(text.substr(0, from))));
-        box_.SelLength.assume(toolkit::characters(narrow(text.substr(from, to - from))));
+        box_.assumeSelection(narrow(shownText()), {static_cast<int>(from), static_cast<int>(to)});
     }
 
     toolkit::TextBox& box_;
@@ -114,7 +103,7 @@ private:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeTextBox(toolkit::TextBox& box, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::TextBox& box, HWND parent) {
     return TextBoxWindow::make(box, parent);
 }
 

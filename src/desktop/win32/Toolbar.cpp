@@ -5,8 +5,6 @@ namespace desktop_win32 {
 
 namespace {
 
-constexpr int kImage = 32, kButtonWidth = 39, kButtonHeight = 38; // logical pixels
-
 class ToolbarWindow final : public ControlWindow {
 public:
     ToolbarWindow(toolkit::Toolbar& bar) : ControlWindow(bar), bar_(bar) {}
@@ -35,7 +33,7 @@ public:
             addButtons();
         showImages();
         SendMessageW(handle(), TB_SETBUTTONSIZE, 0,
-                     MAKELPARAM(scaled(kButtonWidth), scaled(kButtonHeight)));
+                     MAKELPARAM(scaled(bar_.kButtonWidth), scaled(bar_.kButtonHeight)));
         ControlWindow::lookChanged();
     }
 
@@ -63,7 +61,7 @@ private:
     }
 
     void showImages() {
-        const SIZE size{scaled(kImage), scaled(kImage)};
+        const SIZE size{scaled(bar_.kImage), scaled(bar_.kImage)};
         HIMAGELIST const images = ImageList_Create(
             size.cx, size.cy, ILC_COLOR32, static_cast<int>(bar_.Images->ListImages.size()), 0);
         for (const std::string& name : bar_.Images->ListImages) {
@@ -81,7 +79,7 @@ private:
 
 } // namespace
 
-std::shared_ptr<ControlWindow> makeToolbar(toolkit::Toolbar& bar, HWND parent) {
+std::shared_ptr<ControlWindow> makeControl(toolkit::Toolbar& bar, HWND parent) {
     return ToolbarWindow::make(bar, parent);
 }
 

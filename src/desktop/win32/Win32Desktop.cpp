@@ -56,10 +56,8 @@ std::shared_ptr<FormWindow> windowOfForm(const Form& form) {
 }
 
 std::shared_ptr<FrameWindow> frame() {
-    for (int i = 0; i < toolkit::Forms.Count(); ++i)
-        if (auto found = std::dynamic_pointer_cast<FrameWindow>(windowOf(toolkit::Forms(i))))
-            return found;
-    return nullptr;
+    const Form* const form = toolkit::Forms.frame();
+    return form ? std::dynamic_pointer_cast<FrameWindow>(windowOf(*form)) : nullptr;
 }
 
 // The window in front, over which the next one comes up; nullptr without any.
@@ -107,11 +105,6 @@ void Win32Desktop::bringForward(Form& form) {
         waker(now)();
     else
         now();
-}
-
-void Win32Desktop::close(Form& form) {
-    form.attach(nullptr);
-    form.hWnd = 0;
 }
 
 void Win32Desktop::focus(Control& control) {

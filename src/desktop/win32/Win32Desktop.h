@@ -12,7 +12,6 @@ public:
     void open(toolkit::Form& form) override;
     void show(toolkit::Form& form, bool modal) override;
     void bringForward(toolkit::Form& form) override;
-    void close(toolkit::Form& form) override;
     void focus(toolkit::Control& control) override;
     int messageBox(const toolkit::MessageBox& box) override;
     void doEvents() override;

@@ -1,0 +1,99 @@
+// The windows of forms: the frame, the pages inside it, and windows of their own.
+#pragma once
+
+#include "toolkit/Form.h"
+
+#include <QCloseEvent>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPointer>
+
+namespace desktop_qt {
+
+// The desktop's side of a form. Its window goes with it.
+class FormPeer : public toolkit::Peer {
+public:
+    FormPeer(toolkit::Form& form, QWidget* window) : form_(form), window_(window) {}
+    ~FormPeer() override;
+
+    void changed(toolkit::Prop which) override;
+    virtual void show();
+    virtual void bringForward() { show(); }
+    QWidget* window() const { return window_; }
+
+protected:
+    toolkit::Form& form_;
+    QPointer<QWidget> window_;
+};
+
+// nullptr without a form, or without a window of it.
+FormPeer* peerOf(const toolkit::Form* form);
+
+// Has the window known as the form's, for formOf.
+void mark(QWidget& window, toolkit::Form& form);
+// The form that a window shows, or nullptr.
+toolkit::Form* formOf(const QWidget* window);
+
+// A window of Qt's that shows a form. Closing it unloads the form, which takes the window away.
+template <class Window>
+class FormWindow : public Window {
+public:
+    explicit FormWindow(toolkit::Form& form, Qt::WindowFlags flags = {}) : Window(nullptr, flags) {
+        mark(*this, form);
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        if (toolkit::Form* const form = formOf(this))
+            form->Unload(toolkit::FormControlMenu);
+    }
+};
+
+class FrameWindow final : public FormWindow<QMainWindow> {
+public:
+    explicit FrameWindow(toolkit::Form& form);
+
+    QMdiArea* area() const { return area_; }
+    // The active page's menu takes the place of the frame's.
+    void swapMenus();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void takeGeometry();
+    void showBackground();
+
+    QMdiArea* area_;
+    QList<QAction*> menus_;
+    toolkit::Place wanted_; // where the program has put it, in twips
+    QRect shown_;           // and where it was shown instead, within reach on its screen
+};
+
+std::unique_ptr<FormPeer> makeFrameWindow(toolkit::Form& form);
+std::unique_ptr<FormPeer> makePageWindow(toolkit::Form& form, FrameWindow& frame);
+std::unique_ptr<FormPeer> makeTopLevelWindow(toolkit::Form& form);
+
+// Puts the focus where it belongs when the form comes to the front.
+void focusForm(toolkit::Form& form);
+// The widgets of the form's controls, on one of the form's size.
+QWidget* makeContent(toolkit::Form& form, QWidget* parent);
+
+// What the window manager puts around a window. It is known once it has shown the frame.
+extern QSize windowBorders;
+
+// Top-level windows stand on the primary screen, which need not be the leftmost.
+QPoint screenOrigin();
+
+// Shows a window of its own where the form wants it, but within reach on its screen. Gives the
+// place that its frame then has.
+QRect placeOnScreen(QWidget& window, const toolkit::Form& form);
+
+// The menus that the frame's bar shows while the page is in front.
+const QList<QAction*>& menusOf(const QMdiSubWindow& page);
+
+} // namespace desktop_qt
