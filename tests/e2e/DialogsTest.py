@@ -14,7 +14,8 @@ PRODUCT = HOME + "prod02.htm"
 
 
 def round_time(node):
-    """The seconds until a frame comes again, as most of them take; a busy machine can miss some."""
+    """The seconds until a frame comes again. A busy machine can miss most of them for a round, which
+    only makes times longer: the lower quartile is of those that were seen."""
     came, times, last = {}, [], None
     while len(times) < 40:
         frame, now = picture(node), time.monotonic()
@@ -23,7 +24,7 @@ def round_time(node):
         if frame != last:
             came[frame] = now
         last = frame
-    return statistics.median(times)
+    return statistics.quantiles(times)[0]
 
 
 class Dialogs(Road):
@@ -52,7 +53,7 @@ class Dialogs(Road):
         self.assertEqual(about.lines[1:], [
             f"label: {pwd.getpwuid(os.getuid()).pw_name}",
             "image: www.zephyrwick.example, Zephyrwick", "push button: Ok",
-            "label: Quor Vanta , Quor Vanta , Zephyrwick, Zephyrwick, "
+            "label: Quor Vanta , Zephyrwick, "
             "Exampleton, United Kingdom, Tel. 01632 960 049, Fax 01632 960 050, "
             "www.zephyrwick.example, Version 3.5, Copyright \u00A9 2005 - 2026 Zephyrwick"])
         diamond = about["image", "www.zephyrwick.example"]
@@ -100,7 +101,7 @@ class Dialogs(Road):
                 keys("ctrl+c")
             else:
                 click(website["text", link], button=3)
-                time.sleep(1)  # no bus tells of the menu
+                time.sleep(2)  # no bus tells of the menu
                 keys("c")
             keys("Escape")  # the dialog stays
             self.assertEqual({name: website["text", name].text for name in links}, links)

@@ -1,6 +1,6 @@
 """The page "6 From 49", from the first start to the next one."""
 
-from desk import NUMBERS, Road, click, keys, until
+from desk import NUMBERS, SYSTEM, Road, click, keys, system, until
 
 SYSTEMS = [6, 7, 8, 9, 10, 11, 12, 13, 22, 26]
 FRAME_MENUS = ["File: 6 from 49, Bankroll, Customize 6, Favorites, -, Exit",
@@ -26,8 +26,12 @@ class Numbers(Road):
             *FRAME_MENUS[1:]])
         self.check_order(page, ("radio button", ["6 From 49"]),
                          ("push button", ["Close", "Generate Jackpot"]))
+        heard = system.Announced() if SYSTEM == "linux" else None
         page.press("Generate Jackpot")
         until(lambda: len(page.drawn()) == 6, "six numbers")
+        if heard:
+            said = ["Drawn: " + ", ".join(map(str, page.drawn()))]
+            until(lambda: heard.so_far() == said, f"{heard.texts} said as {said}")
         click(page["radio button", "13 From 49"])
         keys("F5")
         until(lambda: len(page.drawn()) == 13, "13 numbers")
@@ -36,6 +40,8 @@ class Numbers(Road):
         keys("alt+g", "Down", "Right", "Up", "Return", "alt+g", "Return")
         until(lambda: len(page.drawn()) == 26, "26 numbers")
         play = page.drawn()
+        if heard:
+            self.assertEqual(len(heard.so_far()), 4, heard.texts)
         keys("alt+F4")
         self.assertEqual(program.answer("No"), "Exiting Quor Vanta ")
         program.tool("6 from 49")

@@ -66,6 +66,24 @@ class Node:
         return marked.start_offset, marked.end_offset
 
 
+class Announced:
+    """What screen readers are given to say, from here on."""
+
+    def __init__(self):
+        self.texts = []
+        self.listener = Atspi.EventListener.new(self.hear)
+        self.listener.register("object:state-changed:showing")
+
+    def hear(self, event):
+        if event.detail1 and event.source.get_role_name() == "notification":
+            self.texts.append(event.source.get_name())
+
+    def so_far(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self.texts
+
+
 def start(folder, environment):
     return subprocess.Popen([folder + "quorvanta"], env=environment)
 

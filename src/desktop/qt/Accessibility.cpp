@@ -57,11 +57,10 @@ void announce(QWidget& window, const QString& text) {
         give(*notice, QAccessible::Notification);
         notice->setAttribute(Qt::WA_TransparentForMouseEvents);
         notice->setGeometry(0, 0, 1, 1);
-        notice->show();
     }
+    notice->hide();
     notice->setAccessibleName(text);
-    QAccessibleEvent shown(notice, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
+    notice->show();
 }
 
 } // namespace desktop_qt

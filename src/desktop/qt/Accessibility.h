@@ -5,7 +5,8 @@
 
 namespace desktop_qt {
 
-// Has screen readers pass the label by.
+// Has screen readers pass the label by; before anything else is done with it, since what they know
+// of a widget is settled with its first name.
 void passByReaders(QLabel& label);
 
 // Has screen readers say `text`, wherever the focus is in the window.

@@ -29,8 +29,6 @@ public:
             widget->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         showCaption();
         showLook();
-        if (label.isShadow)
-            passByReaders(*widget);
     }
 
     void changed(toolkit::Prop which) override {
@@ -87,7 +85,10 @@ private:
 } // namespace
 
 std::unique_ptr<toolkit::Peer> makePeer(toolkit::Label& label, QWidget* parent) {
-    return std::make_unique<LabelPeer>(label, new QLabel(parent));
+    auto* const widget = new QLabel(parent);
+    if (label.isShadow)
+        passByReaders(*widget);
+    return std::make_unique<LabelPeer>(label, widget);
 }
 
 } // namespace desktop_qt
