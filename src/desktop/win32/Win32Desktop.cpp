@@ -2,6 +2,7 @@
 
 #include "desktop/win32/Loop.h"
 #include "desktop/win32/MessageBox.h"
+#include "desktop/win32/Printer.h"
 
 #include <map>
 #include <memory>
@@ -130,6 +131,10 @@ double Win32Desktop::screenWidth() {
 
 double Win32Desktop::screenHeight() {
     return twips(GetSystemMetrics(SM_CYSCREEN), static_cast<int>(GetDpiForSystem()));
+}
+
+std::unique_ptr<toolkit::PrinterDevice> Win32Desktop::newPrinterDevice() {
+    return makePrinterDevice();
 }
 
 int Win32Desktop::run() {

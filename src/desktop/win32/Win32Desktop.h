@@ -17,6 +17,7 @@ public:
     void doEvents() override;
     double screenWidth() override;
     double screenHeight() override;
+    std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override;
     int run() override;
     std::function<void()> waker(std::function<void()> event) override;
     void endLoop() override;

@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-// No page is painted for a printer of Windows yet, so there is none to print on.
+// A page is painted straight for the printer by the desktop, which needs no job of a file.
 struct NoPrinting final : Printing {
     std::unique_ptr<PrintQueue> defaultPrinter() override { throw RuntimeError(PrinterError); }
 };
