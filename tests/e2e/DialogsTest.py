@@ -14,8 +14,8 @@ PRODUCT = HOME + "prod02.htm"
 
 
 def round_time(node):
-    """The seconds until a frame comes again. A busy machine can miss most of them for a round, which
-    only makes times longer: the lower quartile is of those that were seen."""
+    """The seconds until a frame comes again. A busy machine can miss most of them for a round,
+    which only makes times longer: the lower quartile is of those that were seen."""
     came, times, last = {}, [], None
     while len(times) < 40:
         frame, now = picture(node), time.monotonic()
