@@ -99,7 +99,7 @@ TEST_F(MessagesTest, TheFirstRecordOfARunBeginsANewLogAndCarriesTheVersion) {
 TEST_F(MessagesTest, TheErrorBoxComesAlsoWhenTheLogIsLost) {
     for (const char* failing : {"remove", "openForAppend", "writeLine", "close", ""}) {
         mblnLogStarted = false;
-        os.files.fault = [&](const std::string& operation, const std::string&) {
+        os.files.fault = [failing](const std::string& operation, const std::string&) {
             if (operation == failing)
                 throw platform::RuntimeError(platform::PermissionDenied);
         };

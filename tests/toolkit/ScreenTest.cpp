@@ -128,6 +128,7 @@ TEST_F(ScreenTest, WhatAScreenReaderSays) {
     form.label.isShadow = true;
     EXPECT_EQ(form.label.spoken(), "");
     form.label.announce("Drawn");
+    const auto keep = form.shared_from_this();
     form.Unload();
     form.label.announce("late");
     EXPECT_EQ(desk.announced, std::vector<std::string>{"Drawn"});
