@@ -1,7 +1,5 @@
 """The page "Bankroll", kept by a German user, and once by an American too."""
 
-import time
-
 from desk import BLUE, RED, Road, click, keys, shows, until, xdotool
 
 BOXES = ["Date Started", "Total Amount of Bets", "Winnings", "Largest Win"]
@@ -40,7 +38,7 @@ class Bankroll(Road):
             self.assertTrue(shows(RED, [page["label", balances[2]]])[0])
             program.end()
 
-    def test_amounts_are_kept_in_the_users_form_and_refused_where_they_are_none(self):
+    def test_the_balance_turns_red_below_zero(self):
         self.write_data("[Win/Loss]", "Win:1250,5", "Loss:980", "Large:500", "Date:25.07.2005")
         program, page = self.open()
 
@@ -64,17 +62,6 @@ class Bankroll(Road):
         until(lambda: balance("270,50", BLUE), "a blue balance")
         keys(*"2000", "Tab")  # over the whole text, which is selected
         until(lambda: boxes()[1] == "2.000,00" and balance("-749,50", RED), "a red balance")
-        keys(*"abc", "Tab")
-        self.assertEqual(program.answer("OK"), "Please enter only a Numeric value")
-        until(lambda: boxes()[2] == "" and page["text", "Winnings"].has("FOCUSED"), "an empty box")
-        click(page["text", "Date Started"])
-        keys("x", "Tab")
-        self.assertEqual(program.answer("OK"), "Please enter a date")
-        today = time.strftime("%d.%m.%Y")
-        until(lambda: boxes() == [today, "2.000,00", "", "500,00"], "today")
-        program.end()
-        self.assertEqual(self.data()[29:34], ["Win:1250,5", "Loss:2000", "Bal:-749,5", "Large:500",
-                                              "Date:" + today])
 
     def test_a_wrong_amount_is_refused_once_whatever_takes_the_focus_and_esc_gives_it_up(self):
         program, page = self.open()
