@@ -4,7 +4,6 @@
 #include "common/cLocalSettings.h"
 #include "common/frmURL.h"
 #include "frame/MDIForm1.h"
-#include "frame/MainCode_ZW.h"
 #include "lists/cFlexGrid.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
@@ -45,10 +44,13 @@ struct FailingDesktop : FakeDesktop {
 
 class FailuresTest : public ProgramTest {
 protected:
+    FailingDesktop failing;
+    MDIForm1& frame = open<MDIForm1>();
+
     FailuresTest() {
-        desk.last = toolkit::Ignore;
+        failing.last = desk.last = toolkit::Ignore;
         fillRows(gstrStammNumbers, "12");
-        fillRows(gstrFavorites, "1");
+        fillRows(gstrFavorites, "12");
     }
     // The labels of the failures since the last call.
     Labels reported() {
@@ -60,9 +62,43 @@ protected:
     }
 };
 
-TEST_F(FailuresTest, RoutinesThatLoadAPageReportUnderLabelsOfTheirOwn) {
-    FailingDesktop failing;
-    failing.last = toolkit::Ignore;
+TEST_F(FailuresTest, RoutinesOfThePagesReportUnderLabelsOfTheirOwn) {
+    auto& customize = open<frmCustomize6>();
+    customize.grd1.Cols = 1;
+    customize.mnuJackpotGenerator.click();
+    EXPECT_EQ(reported(), Labels{"frmCustomize6.GoCustomJackPot"});
+    userClick(customize.cmdCopy);
+    EXPECT_EQ(reported(), Labels{"frmCustomize6.SetCustomNumbers"});
+    customize.Unload();
+    EXPECT_EQ(reported(), Labels{"frmCustomize6.SetCustomizeUDTs"});
+
+    auto& favorites = open<frmFavorites>();
+    fail(favorites.statBar1);
+    userKey(favorites, kCtrlKey, 2);
+    EXPECT_EQ(reported(), Labels{"maincode_zw.SetStatBarText"});
+    favorites.statBar1.attach(nullptr);
+    userClickRow(favorites.grd1, 2);
+    favorites.grd1.Rows = 2; // the row that was picked first has gone
+    userClickRow(favorites.grd1, 1);
+    EXPECT_EQ(reported(), Labels{"frmFavorites.ShiftRows"});
+    favorites.grd1.Rows = kRows + 1;
+    desk.answers = {toolkit::Yes};
+    fail(favorites.grd1);
+    userDoubleClickRow(favorites.grd1, 1);
+    EXPECT_EQ(reported(), (Labels{"cFlexGrid.DeleteGridRow", "frmFavorites.DeleteGridRow"}));
+    favorites.grd1.attach(nullptr);
+    favorites.grd1.Cols = 1;
+    userClick(favorites.cmdCopy);
+    EXPECT_EQ(reported(), Labels{"frmFavorites.SetFavoritesToGrid"});
+    favorites.Unload();
+    EXPECT_EQ(reported(), Labels{"frmFavorite.SetFavoriteUDTs"});
+
+    os.settings.broken = true;
+    userClick(open<frmMain>().opt1(3));
+    EXPECT_EQ(reported(), Labels{"frmMain.SetSystemVariable"});
+    frmMain::the().Unload();
+
+    fillRows(gstrFavorites, "1");
     toolkit::install(&failing);
     open<frmMain>();
     open<frmCustomize6>();
@@ -75,43 +111,15 @@ TEST_F(FailuresTest, RoutinesThatLoadAPageReportUnderLabelsOfTheirOwn) {
                       "frmFavorites.SetFormProperties", "frmFavorite.GetFavoriteUDTs"}));
 }
 
-TEST_F(FailuresTest, RoutinesOfAnOpenPageReportUnderLabelsOfTheirOwn) {
-    auto& customize = open<frmCustomize6>();
-    customize.grd1.Cols = 1;
-    customize.mnuJackpotGenerator.click();
-    EXPECT_EQ(reported(), Labels{"frmCustomize6.GoCustomJackPot"});
-    userClick(customize.cmdCopy);
-    EXPECT_EQ(reported(), Labels{"frmCustomize6.SetCustomNumbers"});
-    customize.Unload();
-    EXPECT_EQ(reported(), Labels{"frmCustomize6.SetCustomizeUDTs"});
-
-    auto& favorites = open<frmFavorites>();
-    desk.answers = {toolkit::Yes};
-    fail(favorites.grd1);
-    userDoubleClickRow(favorites.grd1, 1);
-    EXPECT_EQ(reported(), (Labels{"cFlexGrid.DeleteGridRow", "frmFavorites.DeleteGridRow"}));
-    fail(favorites.statBar1);
-    userKey(favorites, kCtrlKey, 2);
-    EXPECT_EQ(reported(), Labels{"maincode_zw.SetStatBarText"});
-    favorites.grd1.attach(nullptr);
-    favorites.statBar1.attach(nullptr);
-    favorites.grd1.Cols = 1;
-    userClick(favorites.cmdCopy);
-    EXPECT_EQ(reported(), Labels{"frmFavorites.SetFavoritesToGrid"});
-    favorites.Unload();
-    EXPECT_EQ(reported(), Labels{"frmFavorite.SetFavoriteUDTs"});
-}
-
 TEST_F(FailuresTest, OtherRoutinesReportUnderLabelsOfTheirOwn) {
     desk.last = toolkit::Abort;
     os.locale.items.erase(platform::LOCALE_IMEASURE);
-    os.machine.broken = true;
+    os.machine.broken = os.random.broken = true;
     gdblLoss = HUGE_VAL;
     os.files.fault = [](const std::string& operation, const std::string& /*path*/) {
         if (operation == "changeDirectory")
             throw platform::RuntimeError(platform::PathNotFound);
     };
-    auto& frame = open<MDIForm1>();
     fail(frame);
     frame.Left.assume(0);
     fail(frmURL::the().Txt1);
@@ -119,8 +127,8 @@ TEST_F(FailuresTest, OtherRoutinesReportUnderLabelsOfTheirOwn) {
     lotto.prpDrawNumber = lotto.prpRowNumber = 1;
     cFlexGrid rows; // without a grid
     const std::pair<std::function<void()>, Labels> routines[] = {
+        {Main, {"Sub Main"}},
         {[&] { CenterForm(frame); }, {"CenterForm"}},
-        {[&] { SetStatBarText(frame.statBar1, 2, "x"); }, {"maincode_zw.SetStatBarText"}},
         {WriteSystemData, {"MainCodeYQ.WriteSystemData"}},
         {[] { cLocalSettings().prpWinDirectory(); }, {"cLocalSettings.GetWindowsDir"}},
         {[] { cLocalSettings().prpWinSysDirectory(); }, {"cLocalSettings.GetWindowsSysDir"}},

@@ -158,14 +158,12 @@ TEST_F(GridRowsTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
 
 class FavoritesTest : public ProgramTest {};
 
-TEST_F(FavoritesTest, TheGridIsSizedToItsContentAndSaysHowToDelete) {
+TEST_F(FavoritesTest, TheGridIsSizedToItsContent) {
     const auto& page = open<frmFavorites>();
     EXPECT_EQ(std::pair(page.grd1.Width.get(), page.grd1.Height.get()),
               std::pair(6 * 480 + 960 + 150.0, 11 * 240 + 100.0));
     EXPECT_EQ(page.grd1.text(0, 0) + page.grd1.text(0, 6) + page.grd1.text(10, 0),
               "Favorites# 610.");
-    EXPECT_EQ(page.grd1.ToolTipText.get() + page.cmdReset.ToolTipText.get(),
-              "Double click to delete a rowResets the Keypad");
 }
 
 TEST_F(FavoritesTest, ASeventhKeyIsRefusedAndAnyOfTheSixCanBeTakenBack) {

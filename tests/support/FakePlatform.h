@@ -33,8 +33,13 @@ struct FakeRandom : platform::Random {
     std::deque<float> script;
     std::mt19937 engine{1};
     int seeds = 0;
+    bool broken = false; // it can't be seeded
 
-    void seed() override { ++seeds; }
+    void seed() override {
+        ++seeds;
+        if (broken)
+            throw platform::RuntimeError(platform::DeviceError);
+    }
     float next() override {
         if (script.empty())
             return static_cast<float>(engine() >> 8) * 0x1p-24F;
@@ -46,6 +51,7 @@ struct FakeRandom : platform::Random {
 
 struct FakeSettings : platform::Settings {
     std::map<std::string, std::string> values; // by "application/section/key"
+    bool broken = false;                       // nothing can be saved
 
     std::string get(const std::string& application, const std::string& section,
                     const std::string& key, const std::string& fallback) const override {
@@ -54,6 +60,8 @@ struct FakeSettings : platform::Settings {
     }
     void save(const std::string& application, const std::string& section, const std::string& key,
               const std::string& value) override {
+        if (broken)
+            throw platform::RuntimeError(platform::PermissionDenied);
         values[application + "/" + section + "/" + key] = value;
     }
 };

@@ -1,0 +1,182 @@
+// What the program's forms say to their user, and the guide that tells of it.
+#include "bankroll/frmBankroll.h"
+#include "common/ErrorReport.h"
+#include "common/frmURL.h"
+#include "common/modZWMsg.h"
+#include "frame/MDIForm1.h"
+#include "frame/frmAbout.h"
+#include "frame/frmSplash.h"
+#include "numbers/frmMain.h"
+#include "tests/support/ListPages.h"
+
+#include <fstream>
+#include <iterator>
+#include <regex>
+
+namespace {
+
+using namespace quorvanta;
+using toolkit::allControls;
+
+class TextsTest : public tests::ProgramTest {
+protected:
+    // What the guide's reader sees, with single blanks.
+    const std::string guide = [] {
+        std::ifstream file(QUORVANTA_GUIDE);
+        std::string text{std::istreambuf_iterator<char>(file), {}};
+        for (const auto& [sought, shown] :
+             {std::pair("<[^>]*>", ""), {"&amp;", "&"}, {"&lt;", "<"}, {"\\s+", " "}})
+            text = std::regex_replace(text, std::regex(sought), shown);
+        return text;
+    }();
+
+    TextsTest() {
+        Main();
+        for (toolkit::Form* const form : std::initializer_list<toolkit::Form*>{
+                 &MDIForm1::the(), &frmMain::the(), &frmCustomize6::the(), &frmFavorites::the(),
+                 &frmBankroll::the(), &frmURL::the(), &frmAbout::the()})
+            form->Show();
+    }
+
+    // The marks that hold, behind what they are of.
+    static std::string marks(std::initializer_list<std::pair<const char*, bool>> all) {
+        std::string held;
+        for (const auto& [mark, holds] : all)
+            held += holds ? std::string(" (") + mark + ")" : "";
+        return held;
+    }
+    static std::string told(const toolkit::Menu& menu) {
+        std::string all = menu.Caption.get() + (menu.Shortcut.empty() ? "" : " " + menu.Shortcut) +
+                          marks({{"grey", !menu.Enabled}});
+        const char* before = " [";
+        for (const toolkit::Menu* const entry : menu.entries())
+            all += std::exchange(before, ", ") + told(*entry);
+        return menu.entries().empty() ? all : all + "]";
+    }
+    // Its caption, what is spoken instead, and its tool tip; nothing of a number of a board.
+    static std::string told(const toolkit::Control& it) {
+        std::string all = it.Caption;
+        if (!all.empty() && all.find_first_not_of("0123456789") == all.npos)
+            return "";
+        all += it.spokenAs.empty() ? "" : "{" + it.spokenAs + "}";
+        all += it.ToolTipText.get().empty() ? "" : " <" + it.ToolTipText.get() + ">";
+        if (const auto* const bar = dynamic_cast<const toolkit::Toolbar*>(&it))
+            for (const auto& button : bar->Buttons)
+                all += "<" + button.ToolTipText + ">";
+        if (const auto* const button = dynamic_cast<const toolkit::CommandButton*>(&it))
+            all += marks({{"Esc", button->Cancel}, {"Enter", button->Default}});
+        return all.empty() ? "" : all + marks({{"hidden", !it.Visible}});
+    }
+    // Its caption, its menus, and its controls in the order of Tab.
+    static std::string told(const toolkit::Form& form) {
+        auto controls = allControls(form);
+        std::ranges::stable_sort(controls, {}, &toolkit::Control::TabIndex);
+        std::string all = form.Caption.get() + marks({{"keys", form.KeyPreview},
+                                                      {"borderless", form.Borderless},
+                                                      {"icon", form.MinButton}});
+        for (const toolkit::Menu* const menu : form.menuBar())
+            all += " " + told(*menu);
+        for (const toolkit::Control* const it : controls)
+            all += (told(*it).empty() ? "" : "|") + told(*it);
+        return all;
+    }
+
+    // Of several lines the first will do.
+    void expectInGuide(std::string text) {
+        text = std::regex_replace(text.substr(0, text.find('\r')), std::regex("&| +$| (?= )"), "");
+        const bool number = !text.empty() && std::isdigit(text[0]); // a key or a system
+        EXPECT_TRUE(number || guide.find(text) != std::string::npos) << text;
+    }
+    void expectInGuide(const std::vector<toolkit::Menu*>& menus) {
+        for (const toolkit::Menu* menu : menus) {
+            if (!menu->isSeparator())
+                expectInGuide(menu->Caption);
+            expectInGuide(menu->Shortcut);
+            expectInGuide(menu->entries());
+        }
+    }
+};
+
+TEST_F(TextsTest, FormsHaveTheirMenusCaptionsToolTipsAndOrder) {
+    const std::string help = " Help [Contents, -, About]",
+                      andHelp = " &Quor Vanta  [Quor Vanta Website] &Help [&Contents, -, &About]",
+                      copy = "&File to Grid <Copies numbers to Custom Numbers>";
+    const std::string forms[] = {
+        "Quor Vanta  (keys) (borderless)|Version 3.5|Quor Vanta |Quor Vanta |Zephyrwick|Zephyrwick"
+        "|The number lottery 6 from 49: plays, rows and bankroll"
+        "|Copyright \u00A9 2005 - 2026 Zephyrwick|www.zephyrwick.example",
+
+        "Zephyrwick - Quor Vanta  &File [6 from 49, Bankroll, Customize 6, Favorites, -, &Exit]" +
+            andHelp + "|<6 from 49><Customize Six><Favorites><Bankroll><><Help><Exit>",
+
+        "Quor Vanta  - 6 From 49 (icon) &File [6 From 49 (grey), Bankroll, Customize 6, Favorites, "
+        "-, &Close] &Generator [Generate Jackpot F5, System 49 [6 From 49, 7 From 49, 8 From 49, "
+        "9 From 49, 10 From 49, 11 From 49, 12 From 49, 13 From 49, 22 From 49, 26 From 49]]" +
+            andHelp +
+            "|System -- 49|26 From 49|22 From 49|13 From 49|12 From 49|11 From 49|{Board}"
+            "|10 From 49|9 From 49|8 From 49|7 From 49|6 From 49|Close (Esc)|Generate Jackpot",
+
+        "Quor Vanta  - Customize 6 (keys) &File [6 From 49, Bankroll, Customize 6 (grey), "
+        "Favorites, -, &Close] Customize [All Numbers, -, Delete Grid Row, -, File to Grid, -, "
+        "Reset, -, Jackpot Generator F5] Quor Vanta [Quorvanta Lite Website]" +
+            help + "|{Board}|Keypad|&Reset <Resets the Keypad>|&All Numbers|" + copy +
+            "|{Customized}|Close (Esc)|&Jackpot Generator",
+
+        "Quor Vanta  - Favorites (keys) File [6 From 49, Bankroll, Customize 6, Favorites (grey), "
+        "-, &Close] Favorites [Delete Grid Row, -, Reset, -, File to Grid, -, Print Favorite "
+        "Numbers] Quor Vanta [Quor Vanta Website]" +
+            help + "|{Favorites} <Double click to delete a row>|Keypad|" + copy +
+            "|&Reset <Resets the Keypad>|Close (Esc)",
+
+        "Quor Vanta  - Bankroll &File [6 From 49, Bankroll (grey), Customize 6, Favorites, -, "
+        "&Close] Quor Vanta [Quorvanta Website]" +
+            help +
+            "|{Date Started} <Date Started>|{Total Amount of Bets} <Total Amount Played>"
+            "|{Winnings} <Total amount won>|{Largest Win} <Largest win to date>|Close (Esc)"
+            "|Calculator (hidden)|Bankroll|Balance|Total Amount of Bets|Largest Win|Winnings  "
+            "|Date Started|0.00",
+
+        "Quor Vanta  - Website|&OK (Enter)|Quor Vanta  has been unable to establish an Internet "
+        "connection.\r\nCopy and paste one of the links below into your internet browser and then "
+        "try to establish a connection.|{Quor Vanta  Website}|{Zephyrwick website}"
+        "|Quor Vanta  Website:|Zephyrwick website:|Cancel (Esc)",
+
+        "About Zephyrwick's Quor Vanta | <www.zephyrwick.example>|Quor Vanta |Quor Vanta "
+        "|{Zephyrwick}|Zephyrwick|Zephyrwick|www.zephyrwick.example|Exampleton, United Kingdom"
+        "|&Ok|Copyright \u00A9 2005 - 2026 Zephyrwick|leipreir|Version 3.5"
+        "|Tel. 01632 960 049, Fax 01632 960 050"};
+    ASSERT_EQ(toolkit::Forms.Count(), std::ssize(forms));
+    for (int i = 0; i < toolkit::Forms.Count(); ++i)
+        EXPECT_EQ(told(toolkit::Forms(i)), forms[i]);
+}
+
+TEST_F(TextsTest, TheGuideNamesEveryMessage) {
+    for (void (*show)() :
+         {+[] { msgExit(); }, +[] { msgDeleteGridRow(); }, &msgOnlySixNumbers,
+          &msgMoreNumbersRequired, &msgMaxFavoriteNumbers, &msgNotEnoughStammNumbers,
+          &msgMaxStammNumbers, &msgNoEmptyRow, &msgNoDeleteRow, &msgNumericOnly, &msgEnterDate})
+        show();
+    ShowErrorBox(platform::PrinterError, "", "");
+    EXPECT_EQ(desk.boxes.size(), 12U);
+    for (const std::string& text : desk.takeBoxes())
+        expectInGuide(text);
+    expectInGuide(frmURL::the().lbl1.Caption);
+}
+
+TEST_F(TextsTest, TheGuideNamesEveryButtonMenuEntryShortcutAndFile) {
+    for (const auto& button : MDIForm1::the().tlbar1.Buttons)
+        expectInGuide(button.ToolTipText);
+    for (int i = 0; i < toolkit::Forms.Count(); ++i) {
+        for (const toolkit::Control* const control : allControls(toolkit::Forms(i)))
+            if (dynamic_cast<const toolkit::CommandButton*>(control))
+                expectInGuide(control->Caption);
+        expectInGuide(toolkit::Forms(i).menuBar());
+    }
+    EXPECT_THROW(EndRunForSystem(), tests::ProcessEnded);
+    EXPECT_EQ(os.files.content.size(), 2U);
+    os.files.content[toolkit::App.HelpFile];
+    for (const auto& [path, text] : os.files.content)
+        expectInGuide(path.substr(path.rfind('/') + 1));
+}
+
+} // namespace
