@@ -14,24 +14,18 @@ MANAGER = [sys.executable, os.path.dirname(__file__) + "/session_manager.py"]
 ROW = "1.7;8;;;;;"
 
 
-class Display:
-    """A display that can be ended. No mouse and no keys come there from outside."""
-
-    def __init__(self, kind):
-        quiet = {"stdout": subprocess.PIPE, "stderr": subprocess.DEVNULL}
-        if kind == "X11":
-            self.server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-nolisten", "tcp"], **quiet)
-            name = ":" + self.server.stdout.readline().decode().strip()
-            self.environment = {"DISPLAY": name, "QT_QPA_PLATFORM": "xcb"}
-        else:
-            self.server = subprocess.Popen(["weston", "--backend=headless-backend.so",
-                                            "--socket=ends", "--no-config"], **quiet)
-            self.environment = {"WAYLAND_DISPLAY": "ends", "QT_QPA_PLATFORM": "wayland"}
-            until(lambda: os.path.exists(PLACE + "/run/ends"), "the compositor")
-
-    def end(self):
-        self.server.kill()
-        self.server.communicate()
+def start_display(kind):
+    """A display that can be ended, and what a program needs to find it. No mouse and no keys come
+    there from outside."""
+    if kind == "X11":
+        server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-nolisten", "tcp"],
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        name = ":" + server.stdout.readline().decode().strip()
+        return server, {"DISPLAY": name, "QT_QPA_PLATFORM": "xcb"}
+    server = subprocess.Popen(["weston", "--backend=headless-backend.so", "--socket=ends",
+                               "--no-config"], stderr=subprocess.DEVNULL)
+    until(lambda: os.path.exists(PLACE + "/run/ends"), "the compositor")
+    return server, {"WAYLAND_DISPLAY": "ends", "QT_QPA_PLATFORM": "wayland"}
 
 
 def window(program, title):
@@ -54,8 +48,8 @@ class Ends(Road):
             for moment in ("splash", "page", "box"):
                 with self.subTest(display=kind, moment=moment):
                     self.write_data("[Favorites]", "2.5;6;;;;;")
-                    display = Display(kind)
-                    program = self.run_program(leave_splash=False, **display.environment)
+                    display, environment = start_display(kind)
+                    program = self.run_program(leave_splash=False, **environment)
                     if moment == "splash":
                         program.splash()
                         until(lambda: os.stat(APP + "DebugLog.TXT").st_mtime > 0, "the read")
@@ -66,7 +60,8 @@ class Ends(Road):
                         with contextlib.suppress(*system.GONE):  # it answers behind the box
                             Page(window(program, FRAME))["push button", "Exit"].act()
                         until(lambda: any(w.role == "alert" for w in program.windows()), "the box")
-                    display.end()
+                    display.kill()
+                    display.communicate()
                     self.assertEqual(program.process.wait(5), 0)
                     self.assertEqual(len(self.data()), 35)  # written anew, and whole
                     self.assertEqual(self.data()[17:19],

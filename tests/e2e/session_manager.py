@@ -7,9 +7,8 @@ import sys
 from ctypes import CFUNCTYPE, POINTER, byref, c_char_p, c_int, c_ulong, c_void_p
 
 ICE, SM = ctypes.CDLL("libICE.so.6"), ctypes.CDLL("libSM.so.6")
-for name in ("IceComposeNetworkIdList", "IceAcceptConnection"):
-    getattr(ICE, name).restype = c_void_p
-SM.SmsGenerateClientID.restype = c_void_p
+for made in (ICE.IceComposeNetworkIdList, ICE.IceAcceptConnection, SM.SmsGenerateClientID):
+    made.restype = c_void_p
 SAVE_BOTH, SAVE_LOCAL, ANY = 2, 1, 2
 kept, client = [], None
 
@@ -44,17 +43,6 @@ def done(_connection, _data, success):
     SM.SmsSaveComplete(c_void_p(client))
 
 
-@proc(None, c_void_p, c_void_p, c_int)
-def interact(connection, _data, _kind):
-    tell("interact")
-    SM.SmsInteract(c_void_p(connection))
-
-
-@proc(None, c_void_p, c_void_p, c_int, c_void_p)
-def closed(_connection, _data, _count, _reasons):
-    tell("closed")
-
-
 @proc(None, c_void_p, c_void_p, c_void_p, c_void_p)
 def ignore(*_arguments):
     pass
@@ -64,9 +52,8 @@ def ignore(*_arguments):
 def new_client(connection, _data, mask, callbacks, _reason):
     global client  # pylint: disable=global-statement
     client, mask[0] = connection, 0x3FF
-    calls = [register, interact, ignore, ignore, ignore, done, closed, ignore, ignore, ignore]
-    for i, call in enumerate(calls):
-        callbacks[0][2 * i] = ctypes.cast(call, c_void_p)
+    for i in range(10):
+        callbacks[0][2 * i] = ctypes.cast({0: register, 5: done}.get(i, ignore), c_void_p)
     return 1
 
 
@@ -76,31 +63,26 @@ def welcome(_host):
 
 
 def main():
-    error, count, listeners = ctypes.create_string_buffer(200), c_int(), POINTER(c_void_p)()
+    error, count, doors = ctypes.create_string_buffer(200), c_int(), POINTER(c_void_p)()
     assert SM.SmsInitialize(b"tests", b"1", new_client, None, welcome, 200, error), error.value
-    assert ICE.IceListenForConnections(byref(count), byref(listeners), 200, error), error.value
-    doors = {}
-    for i in range(count.value):
-        ICE.IceSetHostBasedAuthProc(c_void_p(listeners[i]), welcome)
-        doors[ICE.IceGetListenConnectionNumber(c_void_p(listeners[i]))] = listeners[i]
-    tell(ctypes.string_at(ICE.IceComposeNetworkIdList(count, listeners)).decode())
-    guests = {}
+    assert ICE.IceListenForConnections(byref(count), byref(doors), 200, error), error.value
+    door = c_void_p(doors[count.value - 1])  # those of the network come first
+    ICE.IceSetHostBasedAuthProc(door, welcome)
+    tell(ctypes.string_at(ICE.IceComposeNetworkIdList(1, byref(door))).decode())
+    guest = c_void_p(ICE.IceAcceptConnection(door, byref(c_int())))
+    number = ICE.IceConnectionNumber(guest)
     while True:
-        for ready in select.select([0, *doors, *guests], [], [])[0]:
-            if ready in doors:
-                guest = ICE.IceAcceptConnection(c_void_p(doors[ready]), byref(c_int()))
-                guests[ICE.IceConnectionNumber(c_void_p(guest))] = guest
-            elif ready in guests:
-                if ICE.IceProcessMessages(c_void_p(guests[ready]), None, None) != 0:
-                    del guests[ready]
-            else:
-                call = sys.stdin.buffer.raw.readline().strip().decode()
-                if not call:
-                    return
-                {"checkpoint": lambda: save_yourself(SAVE_BOTH, 0),
-                 "logout": lambda: save_yourself(SAVE_BOTH, 1),
-                 "cancel": lambda: SM.SmsShutdownCancelled(c_void_p(client)),
-                 "die": lambda: SM.SmsDie(c_void_p(client))}[call]()
+        ready = select.select([0, number], [], [])[0]
+        if number in ready and ICE.IceProcessMessages(guest, None, None) != 0:
+            return
+        if 0 in ready:
+            call = sys.stdin.buffer.raw.readline().strip().decode()
+            if not call:
+                return
+            {"checkpoint": lambda: save_yourself(SAVE_BOTH, 0),
+             "logout": lambda: save_yourself(SAVE_BOTH, 1),
+             "cancel": lambda: SM.SmsShutdownCancelled(c_void_p(client)),
+             "die": lambda: SM.SmsDie(c_void_p(client))}[call]()
 
 
 main()

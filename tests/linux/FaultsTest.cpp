@@ -84,7 +84,7 @@ namespace {
 
 using namespace quorvanta;
 
-using tests::kFile, tests::kBackup, tests::kSpare, tests::kLabel;
+using tests::kFile, tests::kBackup, tests::kSpare;
 
 const Start kStarts[] = {{"first run"},
                          {"second run", {kFile}},
@@ -114,48 +114,18 @@ TEST(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
     }
 }
 
-// An answer of 0: the display has gone, and nobody can be asked.
-void saveFailingAtEachCall(const Start& start, int answer, int error, const std::string& number,
-                           bool deletable) {
-    int position = 0;
-    for (bool reached = true; reached;) {
-        SCOPED_TRACE(start.name + ", call " + std::to_string(++position) + ", error " + number +
-                     ", answer " + std::to_string(answer) + (deletable ? "" : ", appending"));
-        Trial trial(start);
-        trial.boxes.last = answer;
-        if (!deletable) {
-            trial.boxes.answers = {toolkit::Ignore, answer};
-            trial.boxes.last = toolkit::Ignore;
-            fault.refused.insert("faccessat");
-        }
-        reached = trial.save(position, error, answer == 0);
-        const auto reports = trial.boxes.takeReports();
-        EXPECT_TRUE(answer != 0 || reports.empty());
-        for (const auto& it : reports)
-            EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel ||
-                        (!deletable && it == "70" + kLabel))
-                << it;
-        EXPECT_TRUE(trial.isOldOrFresh());
-        if (!deletable) {
-            EXPECT_TRUE(trial.system.files.content(kFile).starts_with(tests::wholeFile()));
-        } else if ((reports.empty() && answer != 0) || answer == toolkit::Retry) {
-            EXPECT_EQ(trial.read(), trial.fresh);
-        }
-    }
-    EXPECT_GT(position, 5);
-}
-
-// Also behind an old content that can't be deleted, where the user ignores that.
 TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
+    for (const auto& [error, number] :
+         {std::pair(ENOSPC, "61"), {EIO, "57"}, {EACCES, "70"}, {ENOENT, "76"}})
+        for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore}) {
+            for (const Start& start : kStarts)
+                tests::saveFailingAtEachCall(start, answer, error, number);
+            if (error != ENOENT)
+                tests::saveFailingAtEachCall({"can't be deleted", {kFile}, {tests::kDeleting}},
+                                             answer, error, number);
+        }
     for (const Start& start : kStarts)
-        for (const int answer :
-             {toolkit::Abort, toolkit::Retry, toolkit::Ignore, toolkit::Button{}})
-            for (const auto& [error, number] :
-                 {std::pair(ENOSPC, "61"), {EIO, "57"}, {EACCES, "70"}, {ENOENT, "76"}}) {
-                saveFailingAtEachCall(start, answer, error, number, true);
-                if (answer != 0 && error != ENOENT && start.files.contains(kFile))
-                    saveFailingAtEachCall(start, answer, error, number, false);
-            }
+        tests::saveFailingAtEachCall(start, toolkit::Button{}, EIO, "57");
 }
 
 // What can't be read is told, and the end of the run still leaves it in the backup. The log is lost

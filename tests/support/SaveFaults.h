@@ -29,6 +29,9 @@ inline Fault fault;
 inline const std::string kFile = "Quorvanta.txt", kBackup = "Quorvanta.bak",
                          kSpare = kFile + ".spare", kLabel = " WriteLottoFile";
 
+// The call that asks whether a file can be deleted, where a system has one.
+inline constexpr const char* kDeleting = "faccessat";
+
 struct Start {
     std::string name;
     Names files = {}, refused = {};
@@ -77,5 +80,36 @@ struct Trial {
         return values == old || values == fresh;
     }
 };
+
+// Saves with a fault at each call in turn, until one has no call to meet. An answer of 0: the
+// display has gone, and nobody can be asked.
+inline void saveFailingAtEachCall(const Start& start, int answer, int error,
+                                  const std::string& number) {
+    // Then the save goes on behind the old content, once the user has ignored that.
+    const bool undeletable = start.refused.contains(kDeleting);
+    int position = 0;
+    for (bool reached = true; reached;) {
+        SCOPED_TRACE(start.name + ", call " + std::to_string(++position) + ", error " + number +
+                     ", answer " + std::to_string(answer));
+        Trial trial(start);
+        trial.boxes.last = undeletable ? static_cast<int>(toolkit::Ignore) : answer;
+        if (undeletable)
+            trial.boxes.answers = {toolkit::Ignore, answer};
+        reached = trial.save(position, error, answer == 0);
+        const auto reports = trial.boxes.takeReports();
+        EXPECT_TRUE(answer != 0 || reports.empty());
+        for (const auto& it : reports)
+            EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel ||
+                        (undeletable && it == "70" + kLabel))
+                << it;
+        EXPECT_TRUE(trial.isOldOrFresh());
+        if (undeletable) {
+            EXPECT_TRUE(trial.system.files.content(kFile).starts_with(wholeFile()));
+        } else if ((reports.empty() && answer != 0) || answer == toolkit::Retry) {
+            EXPECT_EQ(trial.read(), trial.fresh);
+        }
+    }
+    EXPECT_GT(position, 5);
+}
 
 } // namespace tests

@@ -84,7 +84,7 @@ namespace {
 
 using namespace quorvanta;
 
-using tests::kFile, tests::kBackup, tests::kSpare, tests::kLabel;
+using tests::kFile, tests::kBackup, tests::kSpare;
 
 const Start kStarts[] = {{"first run"},
                          {"second run", {kFile}},
@@ -119,24 +119,8 @@ TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
                                                 {ERROR_CRC, "57"},
                                                 {ERROR_ACCESS_DENIED, "70"},
                                                 {ERROR_FILE_NOT_FOUND, "76"},
-                                                {ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, "70"}}) {
-                int position = 0;
-                for (bool reached = true; reached;) {
-                    SCOPED_TRACE(start.name + ", call " + std::to_string(++position) + ", error " +
-                                 number + ", answer " + std::to_string(answer));
-                    Trial trial(start);
-                    trial.boxes.last = answer;
-                    reached = trial.save(position, error);
-                    const auto reports = trial.boxes.takeReports();
-                    for (const auto& it : reports)
-                        EXPECT_TRUE(it == number + kLabel || it == "75" + kLabel) << it;
-                    EXPECT_TRUE(trial.isOldOrFresh());
-                    if (reports.empty() || answer == toolkit::Retry) {
-                        EXPECT_EQ(trial.read(), trial.fresh);
-                    }
-                }
-                EXPECT_GT(position, 10);
-            }
+                                                {ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, "70"}})
+                tests::saveFailingAtEachCall(start, answer, error, number);
 }
 
 } // namespace
