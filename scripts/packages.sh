@@ -12,11 +12,17 @@ test_packages=(libgtest-dev libbenchmark-dev cups cups-client cups-filters
     "${display_packages[@]}")
 # The cross compiler, Wine to run what it makes, and what its windows need.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine
-    fonts-liberation locales icoutils python3 "${picture_packages[@]}" "${display_packages[@]}")
+    fonts-liberation locales icoutils python3 zip "${picture_packages[@]}" "${display_packages[@]}")
 check_packages=(clang-format clang-tidy shellcheck pylint)
 
 # Installs those of the named packages that are missing, through sudo where not root.
 need() {
+    if ! command -v apt-get >/dev/null; then
+        echo "There is no apt-get here to install what is missing. Debian's names of what is needed:"
+        echo "    $*"
+        echo "README.md, \"On another Linux\", has the names of the projects. Trying with what is here."
+        return
+    fi
     local missing=() package
     for package in "$@"; do
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||

@@ -145,8 +145,8 @@ class Page:
 class Program:
     """One run. The splash is left by a key, unless it is to be waited for."""
 
-    def __init__(self, locale="en_US.UTF-8", leave_splash=True, **environment):
-        self.process = system.start(APP, dict(os.environ, LC_ALL=locale, **environment))
+    def __init__(self, locale="en_US.UTF-8", leave_splash=True, folder=APP, **environment):
+        self.process = system.start(folder, dict(os.environ, LC_ALL=locale, **environment))
         if leave_splash:
             until(lambda: in_front("Quor Vanta "), "the splash")
             keys("space")
