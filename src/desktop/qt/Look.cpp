@@ -2,10 +2,13 @@
 
 #include "toolkit/Drawing.h"
 
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QIconEngine>
 #include <QPainter>
 #include <QResource>
+
+#include <map>
 
 namespace desktop_qt {
 
@@ -13,6 +16,25 @@ namespace {
 
 QString pictureFile(const std::string& name, int width) {
     return QStringLiteral(":/pictures/%1-%2.png").arg(text(name)).arg(width);
+}
+
+// Not hasFamily(), which resolves aliases by asking the font system, as slow as a search.
+bool isInstalled(const QString& family) {
+    return !QFontDatabase::styles(family).isEmpty();
+}
+
+// The design's family, or the one that stands in for it. A font is never asked for by a family that
+// the machine lacks: Qt would have all families put in order by their likeness to it.
+const QString& installed(const std::string& design) {
+    static std::map<std::string, QString> known;
+    QString& family = known[design];
+    if (family.isEmpty()) {
+        const auto other = QStringLiteral("Liberation Sans");
+        family = text(design);
+        if (!isInstalled(family) && isInstalled(other))
+            family = other;
+    }
+    return family;
 }
 
 class PictureEngine final : public QIconEngine {
@@ -51,8 +73,7 @@ QColor colour(toolkit::Colour bgr) {
 }
 
 QFont font(const toolkit::Font& design) {
-    QFont font;
-    font.setFamilies({text(design.name), QStringLiteral("Liberation Sans")});
+    QFont font(installed(design.name));
     font.setPixelSize(toolkit::fontPixels(design));
     font.setBold(design.bold);
     font.setItalic(design.italic);
