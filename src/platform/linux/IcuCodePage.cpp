@@ -1,8 +1,9 @@
 #include "platform/linux/IcuCodePage.h"
 
+#include "platform/linux/LocaleData.h"
+
 #include <unicode/ucnv.h>
-#include <unicode/ulocdata.h>
-#include <unicode/uset.h>
+#include <unicode/uniset.h>
 
 namespace platform {
 
@@ -18,31 +19,20 @@ UConverter* openConverter(int number) {
     return ucnv_open(name.c_str(), &status);
 }
 
-struct CloseSet {
-    void operator()(USet* it) const { uset_close(it); }
-};
-using Set = std::unique_ptr<USet, CloseSet>;
-
-Set lettersOf(const std::string& locale) {
+icu::UnicodeSet lettersOf(const std::string& locale) {
     UErrorCode status = U_ZERO_ERROR;
-    ULocaleData* data = ulocdata_open(locale.c_str(), &status);
-    Set letters(ulocdata_getExemplarSet(data, nullptr, 0, ULOCDATA_ES_STANDARD, &status));
-    ulocdata_close(data);
-    if (U_FAILURE(status))
-        letters.reset(uset_openEmpty());
-    uset_removeAllStrings(letters.get());
-    return letters;
+    const std::string letters = LocaleData(locale).text("ExemplarCharacters");
+    icu::UnicodeSet set(icu::UnicodeString::fromUTF8(letters), status);
+    return set.removeAllStrings();
 }
 
-int lettersMissing(const Set& letters, int number) {
+int lettersMissing(const icu::UnicodeSet& letters, int number) {
     UErrorCode status = U_ZERO_ERROR;
     UConverter* converter = openConverter(number);
-    const Set covered(uset_openEmpty());
-    ucnv_getUnicodeSet(converter, covered.get(), UCNV_ROUNDTRIP_SET, &status);
+    icu::UnicodeSet covered;
+    ucnv_getUnicodeSet(converter, covered.toUSet(), UCNV_ROUNDTRIP_SET, &status);
     ucnv_close(converter);
-    const Set missing(uset_clone(letters.get()));
-    uset_removeAll(missing.get(), covered.get());
-    return uset_size(missing.get());
+    return icu::UnicodeSet(letters).removeAll(covered).size();
 }
 
 class IcuTable final : public CodePageTable {
@@ -103,7 +93,7 @@ int ansiCodePage(const std::string& locale) {
         if (locale.starts_with(exception.locale))
             return exception.number;
 
-    const Set letters = lettersOf(locale);
+    const icu::UnicodeSet letters = lettersOf(locale);
     int best = 0, fewest = 0;
     for (const int number : kCandidates) {
         const int missing = lettersMissing(letters, number);

@@ -3,6 +3,8 @@
 
 #include "platform/Locale.h"
 #include "platform/linux/LocaleCategories.h"
+#include "platform/linux/LocaleDates.h"
+#include "platform/linux/LocaleNumbers.h"
 
 #include <map>
 #include <memory>
@@ -30,24 +32,19 @@ public:
     std::string toBytes(std::string_view text) const override;
 
 private:
-    struct Formats;
-
     const CodePage& codePage() const;
     const std::string& itemText(int item) const;
     std::string makeText(int item) const;
-    std::string languageText(int item) const;
-    std::string countryText(int item) const;
-    std::string numberText(int item) const;
-    std::string moneyText(int item) const;
-    std::string dateText(int item) const;
     std::string separator(std::string text) const;
 
     LocaleCategories categories_;
+    LocaleNumbers numbers_;
+    LocaleMoney money_;
+    LocaleDates dates_;
 
     // Opened and worked out at the first need, since most runs need little of it.
     mutable std::unique_ptr<CodePage> codePage_;
     mutable int codePageNumber_ = 0;
-    std::unique_ptr<Formats> formats_;
     mutable std::map<int, std::string> items_;
 };
 

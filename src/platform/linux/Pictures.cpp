@@ -141,6 +141,23 @@ int dateOrder(std::string_view picture) {
     return letters.find('M') < letters.find('d') ? 0 : 1;
 }
 
+std::string groupingOf(std::string_view pattern) {
+    pattern.remove_prefix(std::min(pattern.find_first_of("#0"), pattern.size()));
+    std::string_view digits = pattern.substr(0, pattern.find_first_not_of("#0,"));
+    std::size_t sizes[2] = {};
+    for (std::size_t& size : sizes) {
+        const std::size_t comma = digits.rfind(',');
+        if (comma == std::string_view::npos)
+            break;
+        size = digits.size() - comma - 1;
+        digits = digits.substr(0, comma);
+    }
+    const auto [first, next] = sizes;
+    const std::string grouping = std::to_string(first > 0 ? first : 3);
+    return next > 0 && next != first ? grouping + ";" + std::to_string(next) + ";0"
+                                     : grouping + ";0";
+}
+
 int positiveCurrencyMode(std::string_view pattern) {
     return std::max(indexOf(currencyForms(pattern).positive, {"$1", "1$", "$ 1", "1 $"}), 0);
 }

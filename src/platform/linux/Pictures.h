@@ -19,6 +19,9 @@ std::string separatorOf(std::string_view picture);
 // The order of a date: 0 month, day, year; 1 day, month, year; 2 year, month, day.
 int dateOrder(std::string_view picture);
 
+// "3;0": groups of three all the way; "3;2;0": one of three, then twos ("#,##,##0.###").
+std::string groupingOf(std::string_view pattern);
+
 // The places of sign, currency and amount in a currency pattern, as LOCALE_ICURRENCY and
 // LOCALE_INEGCURR number them.
 int positiveCurrencyMode(std::string_view pattern);
