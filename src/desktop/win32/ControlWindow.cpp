@@ -45,10 +45,6 @@ void attachTo(T& control, HWND parent) {
 
 bool reporting = false; // the toolkit is just told of a move of the focus
 
-ControlWindow* controlWindow(const Control& control) {
-    return dynamic_cast<ControlWindow*>(windowOf(control).get());
-}
-
 } // namespace
 
 int ObjectWindow::dpi() const {
@@ -119,57 +115,9 @@ void ControlWindow::showLook() {
 }
 
 void ControlWindow::place() {
-    const RECT to = rectangle(control_, dpi());
+    const RECT to = rectangle();
     SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void ControlWindow::repaint() {
-    if (!isTransparent()) {
-        InvalidateRect(handle(), nullptr, FALSE);
-        return;
-    }
-    RECT area{};
-    GetWindowRect(handle(), &area);
-    MapWindowPoints(nullptr, GetParent(handle()), reinterpret_cast<POINT*>(&area), 2);
-    RedrawWindow(GetParent(handle()), &area, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
-}
-
-void ControlWindow::paint() {
-    PAINTSTRUCT painting{};
-    HDC const dc = BeginPaint(handle(), &painting);
-    RECT all{};
-    GetClientRect(handle(), &all);
-    // On paper first, so that nothing is seen half painted.
-    HDC const paper = CreateCompatibleDC(dc);
-    HBITMAP const sheet = CreateCompatibleBitmap(dc, all.right, all.bottom);
-    HGDIOBJ const before = SelectObject(paper, sheet);
-    if (isTransparent())
-        paintBelow(paper);
-    paintAt(paper, {0, 0});
-    BitBlt(dc, 0, 0, all.right, all.bottom, paper, 0, 0, SRCCOPY);
-    SelectObject(paper, before);
-    DeleteObject(sheet);
-    DeleteDC(paper);
-    EndPaint(handle(), &painting);
-}
-
-void ControlWindow::paintBelow(HDC dc) const {
-    RECT place{};
-    GetWindowRect(handle(), &place);
-    const toolkit::Form& form = control_.form();
-    SetDCBrushColor(dc, colour(form.BackColor, COLOR_BTNFACE));
-    RECT all{0, 0, place.right - place.left, place.bottom - place.top};
-    FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-    for (const Control* const below : control_.parent().controls()) {
-        if (below == &control_)
-            return; // what comes later stands in front
-        ControlWindow* const window = below->Visible ? controlWindow(*below) : nullptr;
-        RECT theirs{}, common{};
-        if (window && GetWindowRect(window->handle(), &theirs) &&
-            IntersectRect(&common, &theirs, &place))
-            window->paintAt(dc, {theirs.left - place.left, theirs.top - place.top});
-    }
 }
 
 LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -32,13 +32,8 @@ public:
     void changed(toolkit::Prop which) override;
     void lookChanged() override;
 
-    // What stands in front of the form's ground without a ground of its own paints what lies below
-    // it too.
-    virtual bool isTransparent() const { return false; }
     // The system has objects of its own for what lies inside, such as the buttons of a toolbar.
     virtual bool speaksItself() const { return false; }
-    // Paints the control with its top left corner at the place.
-    virtual void paintAt(HDC /*dc*/, POINT /*place*/) {}
 
 protected:
     // `kind` and the styles are those of the system's window.
@@ -49,17 +44,35 @@ protected:
     virtual void showCaption();
     // Follows the colours and the font.
     virtual void showLook();
+    // Where the control shall stand in its parent, in pixels.
+    virtual RECT rectangle() const { return desktop_win32::rectangle(control_, dpi()); }
     virtual void place();
     // Tells the toolkit that the control has got the focus.
     void reportFocus();
-    // Has the control painted anew, with what stands in front of it.
-    void repaint();
-    // Paints the control and, where it is transparent, what lies below.
-    void paint();
 
     toolkit::Control& control_;
+};
+
+// A control in the program's own painting.
+class PaintedWindow : public ControlWindow {
+public:
+    using ControlWindow::ControlWindow;
+
+    // Without a ground of its own it paints what lies below it too.
+    virtual bool isTransparent() const { return false; }
+    // Paints the control with its top left corner at the place.
+    virtual void paintAt(HDC dc, POINT place) = 0;
+
+protected:
+    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void showLook() override { repaint(); }
+    // Has the control painted anew, with what stands in front of it.
+    void repaint();
+    // What the control covers, with its top left corner at the place.
+    RECT areaAt(POINT place) const;
 
 private:
+    void paint();
     void paintBelow(HDC dc) const;
 };
 

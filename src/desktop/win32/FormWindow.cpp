@@ -109,9 +109,7 @@ LRESULT FormWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND: {
         RECT all{};
         GetClientRect(handle(), &all);
-        HDC const dc = reinterpret_cast<HDC>(wParam);
-        SetDCBrushColor(dc, colour(form_.BackColor, COLOR_BTNFACE));
-        FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+        fill(reinterpret_cast<HDC>(wParam), all, colour(form_.BackColor, COLOR_BTNFACE));
         return TRUE;
     }
     case WM_DPICHANGED: {

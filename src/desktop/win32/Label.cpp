@@ -6,9 +6,9 @@ namespace {
 
 // The system's own label, so that readers know it for one, in the program's painting: the system's
 // knows no colours.
-class LabelWindow final : public ControlWindow {
+class LabelWindow final : public PaintedWindow {
 public:
-    LabelWindow(toolkit::Label& label) : ControlWindow(label), label_(label) {}
+    LabelWindow(toolkit::Label& label) : PaintedWindow(label), label_(label) {}
 
     static std::shared_ptr<ControlWindow> make(toolkit::Label& label, HWND parent) {
         const auto it = std::make_shared<LabelWindow>(label);
@@ -28,25 +28,16 @@ public:
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
-        switch (message) {
-        case WM_PAINT:
-            paint();
-            return 0;
-        case WM_ERASEBKGND:
-            return TRUE;
-        case WM_SETTEXT: // the system's label would paint it at once
-            return DefWindowProcW(handle(), message, wParam, lParam);
-        default:
-            return ControlWindow::received(message, wParam, lParam);
-        }
+        return message == WM_SETTEXT // the system's label would paint it at once
+                   ? DefWindowProcW(handle(), message, wParam, lParam)
+                   : PaintedWindow::received(message, wParam, lParam);
     }
     void showCaption() override {
         ControlWindow::showCaption();
         place();
         repaint();
     }
-    void showLook() override { repaint(); }
-    void place() override;
+    RECT rectangle() const override;
 
 private:
     HFONT shownFont(int width) const {
@@ -79,25 +70,20 @@ UINT LabelWindow::format() const {
     }
 }
 
-void LabelWindow::place() {
-    RECT to = rectangle(label_, dpi());
+RECT LabelWindow::rectangle() const {
+    RECT to = PaintedWindow::rectangle();
     if (label_.AutoSize) {
         const SIZE room = extent(wide(label_.Caption), shownFont(0));
         to.right = std::max(to.right, to.left + room.cx);
         to.bottom = std::max(to.bottom, to.top + room.cy);
     }
-    SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    return to;
 }
 
 void LabelWindow::paintAt(HDC dc, POINT place) {
-    RECT area{};
-    GetClientRect(handle(), &area);
-    OffsetRect(&area, place.x, place.y);
-    if (!isTransparent()) {
-        SetDCBrushColor(dc, colour(label_.BackColor, COLOR_BTNFACE));
-        FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-    }
+    RECT area = areaAt(place);
+    if (!isTransparent())
+        fill(dc, area, colour(label_.BackColor, COLOR_BTNFACE));
     if (label_.BorderStyle) {
         SetDCBrushColor(dc, static_cast<COLORREF>(toolkit::kBorder));
         FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));

@@ -15,11 +15,10 @@ public:
     }
 
 protected:
-    void place() override {
-        RECT to = rectangle(control_, dpi());
-        const int height = std::max(2, dpi() / 48); // a rule has no height of its own
-        SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, height,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT rectangle() const override {
+        RECT to = ControlWindow::rectangle();
+        to.bottom = to.top + std::max(2, dpi() / 48); // a rule has no height of its own
+        return to;
     }
 };
 

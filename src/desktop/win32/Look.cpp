@@ -71,6 +71,11 @@ COLORREF colour(toolkit::Colour bgr, int themeIndex) {
     return bgr == toolkit::kThemeColour ? GetSysColor(themeIndex) : static_cast<COLORREF>(bgr);
 }
 
+void fill(HDC dc, const RECT& area, COLORREF with) {
+    SetDCBrushColor(dc, with);
+    FillRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+}
+
 HFONT font(const toolkit::Font& design, int dpi) {
     return fontOfHeight(design, toolkit::fontPixels(design, perPixel(dpi)));
 }

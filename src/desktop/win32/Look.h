@@ -20,6 +20,8 @@ std::string narrow(const std::wstring& text);
 // The system's number for a colour. What the user's theme has is told by its index, a COLOR_...
 COLORREF colour(toolkit::Colour bgr, int themeIndex);
 
+void fill(HDC dc, const RECT& area, COLORREF with);
+
 // The font stays the desktop's.
 HFONT font(const toolkit::Font& design, int dpi);
 // The font in a size in which the text is no wider than `width` pixels, if there is one.

@@ -13,9 +13,9 @@ using toolkit::MSFlexGrid;
 // Painted by the program, as the system has no table of its kind: the fixed row and column stay in
 // view, the rest is scrolled below them. The current row is the toolkit's; the window tells the
 // grid what the user did, and highlights what the grid answers.
-class MSFlexGridWindow final : public ControlWindow {
+class MSFlexGridWindow final : public PaintedWindow {
 public:
-    MSFlexGridWindow(MSFlexGrid& grid) : ControlWindow(grid), grid_(grid) {}
+    MSFlexGridWindow(MSFlexGrid& grid) : PaintedWindow(grid), grid_(grid) {}
 
     static std::shared_ptr<ControlWindow> make(MSFlexGrid& grid, HWND parent) {
         const auto it = std::make_shared<MSFlexGridWindow>(grid);
@@ -30,7 +30,6 @@ public:
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void showLook() override { repaint(); }
     void place() override {
         ControlWindow::place();
         showBars();
@@ -191,9 +190,7 @@ void MSFlexGridWindow::paintCell(HDC dc, int row, int column, POINT place) {
 
 // The scrolled cells first: the fixed ones cover what has moved below them.
 void MSFlexGridWindow::paintAt(HDC dc, POINT place) {
-    RECT all{};
-    GetClientRect(handle(), &all);
-    OffsetRect(&all, place.x, place.y);
+    const RECT all = areaAt(place);
     FillRect(dc, &all, GetSysColorBrush(COLOR_WINDOW));
     SetBkMode(dc, TRANSPARENT);
     HGDIOBJ const before = SelectObject(dc, font(grid_.font(), dpi()));
@@ -222,11 +219,6 @@ void MSFlexGridWindow::press(UINT message, LPARAM place) {
 
 LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_PAINT:
-        paint();
-        return 0;
-    case WM_ERASEBKGND:
-        return TRUE;
     case WM_HSCROLL:
         scroll(columns(), LOWORD(wParam));
         return 0;
@@ -241,15 +233,11 @@ LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam == VK_LEFT || wParam == VK_RIGHT)
             scroll(columns(), wParam == VK_LEFT ? SB_LINEUP : SB_LINEDOWN);
         return 0;
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-        repaint();
-        break;
     case WM_SIZE:
         showBars();
         break;
     case WM_LBUTTONDOWN: {
-        ControlWindow::received(message, wParam, lParam); // the focus comes first
+        PaintedWindow::received(message, wParam, lParam); // the focus comes first
         if (!gone() && GetFocus() == handle() && GetKeyState(VK_LBUTTON) < 0)
             press(message, lParam);
         return 0;
@@ -261,7 +249,7 @@ LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         break;
     }
-    return ControlWindow::received(message, wParam, lParam);
+    return PaintedWindow::received(message, wParam, lParam);
 }
 
 } // namespace

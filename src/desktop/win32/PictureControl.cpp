@@ -29,16 +29,15 @@ HBITMAP enlarged(const Bitmap& bitmap, SIZE size) {
     return made;
 }
 
-class PictureWindow : public ControlWindow {
+class PictureWindow : public PaintedWindow {
 public:
-    PictureWindow(toolkit::PictureControl& control) : ControlWindow(control), picture_(control) {}
+    PictureWindow(toolkit::PictureControl& control) : PaintedWindow(control), picture_(control) {}
     ~PictureWindow() override { forget(); }
 
     bool isTransparent() const override { return true; }
 
     void paintAt(HDC dc, POINT place) override {
-        RECT area{};
-        GetClientRect(handle(), &area);
+        const RECT area = areaAt({0, 0});
         const SIZE size{area.right, area.bottom};
         if (HBITMAP const shown = bitmap(size))
             paintPicture(dc, shown, place, size);
@@ -57,21 +56,9 @@ public:
     }
 
 protected:
-    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
-        switch (message) {
-        case WM_PAINT:
-            paint();
-            return 0;
-        case WM_ERASEBKGND:
-            return TRUE;
-        default:
-            return ControlWindow::received(message, wParam, lParam);
-        }
-    }
     void showCaption() override {
         SetWindowTextW(handle(), wide(control_.spoken()).c_str()); // all that a reader finds
     }
-    void showLook() override { repaint(); }
 
 private:
     // Kept once it is drawn: an animation comes round again.
@@ -116,25 +103,15 @@ public:
 
     void paintAt(HDC dc, POINT place) override {
         PictureWindow::paintAt(dc, place);
-        if (GetFocus() != handle())
-            return;
-        RECT area{};
-        GetClientRect(handle(), &area);
-        OffsetRect(&area, place.x, place.y);
-        DrawFocusRect(dc, &area);
+        const RECT area = areaAt(place);
+        if (GetFocus() == handle())
+            DrawFocusRect(dc, &area);
     }
 
     bool commanded(WPARAM wParam) override {
         if (HIWORD(wParam) == STN_DBLCLK)
             control_.doubleClick();
         return true;
-    }
-
-protected:
-    LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_SETFOCUS || message == WM_KILLFOCUS)
-            repaint();
-        return PictureWindow::received(message, wParam, lParam);
     }
 };
 
