@@ -18,6 +18,7 @@ inline constexpr Colour kThemeColour = -1; // whatever the user's theme has in t
 // Positions and sizes are in twips, 15 to a logical pixel, and count from the container.
 struct Place {
     double Left = 0, Top = 0, Width = 0, Height = 0;
+    bool operator==(const Place&) const = default;
 };
 
 struct Font {

@@ -26,6 +26,15 @@ inline int fontPixels(const Font& font, double perPixel = kTwipsPerPixel) {
     return pixels(font.size * kTwipsPerPoint, perPixel);
 }
 
+// How well two colours can be told apart, from 1 for equal ones to 21 for black and white.
+double contrast(Colour one, Colour other);
+// What lines and titles need at least, and what a mark needs.
+inline constexpr double kReadable = 3, kNoticed = 2;
+// The colour where it can be told from the one that it stands beside, else another.
+inline Colour seenBeside(Colour beside, Colour wanted, Colour other, double atLeast = kReadable) {
+    return contrast(wanted, beside) >= atLeast ? wanted : other;
+}
+
 struct ColourParts {
     int red, green, blue; // 0 to 255
 };

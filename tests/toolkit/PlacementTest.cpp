@@ -7,7 +7,9 @@
 
 namespace {
 
+using toolkit::Form;
 using toolkit::Place;
+using toolkit::ShownPlace;
 using Numbers = std::array<double, 4>;
 
 Numbers numbers(const Place& place) {
@@ -47,6 +49,30 @@ TEST(Placement, BringsAPageIntoViewIfLessThanHalfOfItsTitleIsSeen) {
                            {{-50, 0, 800, 380}, {-50, 0, 800, 380}}, // wider than the frame
                            {{600, 0, 800, 380}, {0, 0, 800, 380}}})
         EXPECT_EQ(numbers(intoView(it.page, view, 25)), it.shown);
+}
+
+// Steps of one window, at 20 twips a pixel: what the program reads back as its form's place.
+TEST(Placement, TheProgramReadsBackWhatItHasAskedForUntilTheUserMovesTheWindow) {
+    for (const auto kind : {Form::Kind::MDIFrame, Form::Kind::TopLevel}) {
+        Form form(kind, "form", 20000, 10000);
+        const Place asked{-500, 100, 20000, 10000};
+        form.Left = asked.Left;
+        form.Top = asked.Top;
+        ShownPlace place;
+        const bool fits = kind == Form::Kind::MDIFrame; // it is made smaller
+        const Place shown = place.within({0, 10, 800, 590}, form, 20);
+        EXPECT_EQ(numbers(shown), (Numbers{0, 10, fits ? 800.0 : 1000, 500}));
+        const auto readBack = [&](const Place& now) {
+            place.moved(now, form, 20);
+            return Numbers{form.Left, form.Top, form.Width, form.Height};
+        };
+        EXPECT_EQ(readBack(shown), numbers(asked));
+        EXPECT_EQ(readBack({30, 40, 700, 500}), (Numbers{600, 800, 14000, 10000}));
+        EXPECT_EQ(readBack(shown), numbers(asked)) << "on its way there";
+        // Another area, as where a bar goes: it is shown where it was asked for, as far as it can.
+        EXPECT_EQ(numbers(place.within({-100, 0, 1100, 600}, form, 20)),
+                  (Numbers{-25, 5, 1000, 500}));
+    }
 }
 
 } // namespace

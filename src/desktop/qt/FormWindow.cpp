@@ -2,7 +2,6 @@
 
 #include "desktop/qt/ControlPeer.h"
 #include "toolkit/Focus.h"
-#include "toolkit/Placement.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -16,6 +15,11 @@ namespace {
 
 constexpr const char* kForm = "toolkitForm"; // the property that holds a window's form
 
+// Windows of their own stand on the primary screen, which need not be the leftmost.
+QPoint screenOrigin() {
+    return QGuiApplication::primaryScreen()->geometry().topLeft();
+}
+
 } // namespace
 
 QSize windowBorders(0, 0);
@@ -23,23 +27,6 @@ QSize windowBorders(0, 0);
 void mark(QWidget& window, Form& form) {
     window.setObjectName(text(form.name()));
     window.setProperty(kForm, QVariant::fromValue<void*>(&form));
-}
-
-QPoint screenOrigin() {
-    return QGuiApplication::primaryScreen()->geometry().topLeft();
-}
-
-QRect placeOnScreen(QWidget& window, const Form& form) {
-    const QRect wanted =
-        QRect(pixels(form.Left), pixels(form.Top), pixels(form.Width), pixels(form.Height))
-            .translated(screenOrigin());
-    const bool canBeResized = form.kind == Form::Kind::MDIFrame;
-    const QRect shown = rectangle(toolkit::insideArea(
-        place(wanted), place(QGuiApplication::primaryScreen()->availableGeometry()), canBeResized));
-    if (canBeResized)
-        window.resize(shown.size() - windowBorders);
-    window.move(shown.topLeft());
-    return shown;
 }
 
 void focusForm(Form& form) {
@@ -78,13 +65,27 @@ void FormPeer::changed(Prop which) {
     case Prop::Left:
     case Prop::Top:
         if (window_->isWindow())
-            placeOnScreen(*window_, form_);
+            placeWindow();
         else
             window_->move(pixels(form_.Left), pixels(form_.Top));
         return;
     default:
         return;
     }
+}
+
+void FormPeer::placeWindow() {
+    const QRect free = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect shown = rectangle(
+        place_.within(place(free.translated(-screenOrigin())), form_, toolkit::kTwipsPerPixel));
+    if (form_.kind == Form::Kind::MDIFrame)
+        window_->resize(shown.size() - windowBorders);
+    window_->move(shown.topLeft() + screenOrigin());
+}
+
+void FormPeer::moved() {
+    place_.moved(place(window_->frameGeometry().translated(-screenOrigin())), form_,
+                 toolkit::kTwipsPerPixel);
 }
 
 void FormPeer::show() {

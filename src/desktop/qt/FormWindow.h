@@ -1,7 +1,7 @@
 // The windows of forms: the frame, the pages inside it, and windows of their own.
 #pragma once
 
-#include "toolkit/Form.h"
+#include "toolkit/Placement.h"
 
 #include <QCloseEvent>
 #include <QMainWindow>
@@ -20,11 +20,18 @@ public:
     void changed(toolkit::Prop which) override;
     virtual void show();
     virtual void bringForward() { show(); }
+    // Shows a window of its own where the form wants it, but within reach on its screen.
+    void placeWindow();
+    // A window of its own was moved or resized.
+    void moved();
     QWidget* window() const { return window_; }
 
 protected:
     toolkit::Form& form_;
     QPointer<QWidget> window_;
+
+private:
+    toolkit::ShownPlace place_;
 };
 
 // nullptr without a form, or without a window of it.
@@ -70,8 +77,6 @@ private:
 
     QMdiArea* area_;
     QList<QAction*> menus_;
-    toolkit::Place wanted_; // where the program has put it, in twips
-    QRect shown_;           // and where it was shown instead, within reach on its screen
 };
 
 std::unique_ptr<FormPeer> makeFrameWindow(toolkit::Form& form);
@@ -85,13 +90,6 @@ QWidget* makeContent(toolkit::Form& form, QWidget* parent);
 
 // What the window manager puts around a window. It is known once it has shown the frame.
 extern QSize windowBorders;
-
-// Top-level windows stand on the primary screen, which need not be the leftmost.
-QPoint screenOrigin();
-
-// Shows a window of its own where the form wants it, but within reach on its screen. Gives the
-// place that its frame then has.
-QRect placeOnScreen(QWidget& window, const toolkit::Form& form);
 
 // The menus that the frame's bar shows while the page is in front.
 const QList<QAction*>& menusOf(const QMdiSubWindow& page);

@@ -66,28 +66,17 @@ void FrameWindow::takeGeometry() {
     Form* const form = formOf(this);
     if (!form || !isVisible())
         return;
-    const auto assume = [form](const toolkit::Place& now) {
-        form->Left.assume(now.Left);
-        form->Top.assume(now.Top);
-        form->Width.assume(now.Width);
-        form->Height.assume(now.Height);
-    };
     const QSize borders = frameGeometry().size() - size();
-    if (windowBorders.isNull() && !borders.isNull() && !isMaximized()) {
-        // It was placed without them: its middle stays where the program has put it.
-        windowBorders = borders;
-        const double width = twips(borders.width()), height = twips(borders.height());
-        wanted_ = {form->Left - width / 2, form->Top - height / 2, form->Width + width,
-                   form->Height + height};
-        assume(wanted_);
-        shown_ = placeOnScreen(*this, *form);
-        return;
-    }
-    const QRect now = frameGeometry().translated(-screenOrigin());
-    assume(frameGeometry() == shown_
-               ? wanted_ // a place within reach that the program didn't ask for isn't its own
-               : toolkit::Place{twips(now.x()), twips(now.y()), twips(now.width()),
-                                twips(now.height())});
+    if (!windowBorders.isNull() || borders.isNull() || isMaximized())
+        return peerOf(form)->moved();
+    // It was placed without them: its middle stays where the program has put it.
+    windowBorders = borders;
+    const double width = twips(borders.width()), height = twips(borders.height());
+    form->Left.assume(form->Left - width / 2);
+    form->Top.assume(form->Top - height / 2);
+    form->Width.assume(form->Width + width);
+    form->Height.assume(form->Height + height);
+    peerOf(form)->placeWindow();
 }
 
 std::unique_ptr<FormPeer> makeFrameWindow(Form& form) {

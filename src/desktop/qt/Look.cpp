@@ -72,6 +72,10 @@ QColor colour(toolkit::Colour bgr) {
     return {red, green, blue};
 }
 
+toolkit::Colour number(const QColor& colour) {
+    return colour.red() | colour.green() << 8 | colour.blue() << 16;
+}
+
 QFont font(const toolkit::Font& design) {
     QFont font(installed(design.name));
     font.setPixelSize(toolkit::fontPixels(design));

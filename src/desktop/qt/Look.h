@@ -23,6 +23,7 @@ inline QString text(const std::string& utf8) {
 QString lines(const std::string& utf8);
 
 QColor colour(toolkit::Colour bgr);
+toolkit::Colour number(const QColor& colour);
 
 QFont font(const toolkit::Font& design);
 

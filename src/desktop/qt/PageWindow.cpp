@@ -1,7 +1,6 @@
 #include "desktop/qt/FormWindow.h"
 #include "desktop/qt/Look.h"
 #include "desktop/qt/Menu.h"
-#include "toolkit/Placement.h"
 
 #include <QApplication>
 #include <QFontInfo>

@@ -2,7 +2,6 @@
 
 #include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
-#include "desktop/qt/FocusRing.h"
 #include "desktop/qt/FormWindow.h"
 #include "desktop/qt/HelpViewer.h"
 #include "desktop/qt/Keys.h"
@@ -11,6 +10,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QFocusFrame>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QScopedValueRollback>
@@ -74,8 +74,8 @@ QApplication& QtDesktop::application() {
 void QtDesktop::showFocusOn(const Control* control) {
     const bool ringed = control && !dynamic_cast<const toolkit::TextBox*>(control);
     if (!ring_)
-        ring_ = new FocusRing;
-    ring_->show(ringed ? widgetOf(*control) : nullptr);
+        ring_ = new QFocusFrame;
+    ring_->setWidget(ringed ? widgetOf(*control) : nullptr);
 }
 
 FrameWindow* QtDesktop::frame() const {

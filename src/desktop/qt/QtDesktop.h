@@ -13,11 +13,11 @@
 #include <string>
 
 class QApplication;
+class QFocusFrame;
 class QWidget;
 
 namespace desktop_qt {
 
-class FocusRing;
 class FrameWindow;
 
 class QtDesktop : public QObject, public desktop::SystemDesktop {
@@ -61,7 +61,7 @@ private:
     int argc_ = 1;
     std::array<char*, 2> argv_{};
     std::unique_ptr<QApplication> application_;
-    QPointer<FocusRing> ring_; // goes with the window that it stands in
+    QPointer<QFocusFrame> ring_; // goes with the window that it stands in
     std::uintptr_t lastHandle_ = 0;
     bool focusMoves_ = false; // a control is just being told that the focus goes or comes
 };

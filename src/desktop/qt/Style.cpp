@@ -1,28 +1,26 @@
 #include "desktop/qt/Style.h"
 
+#include "desktop/qt/Look.h"
+
+#include <QFocusFrame>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyleOption>
-
-#include <cmath>
 
 namespace desktop_qt {
 
 namespace {
 
-constexpr double kReadable = 3; // the contrast that lines and titles need at least
-
-double luminance(const QColor& colour) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
+// Styles draw in shades of the ground, and black on it, where another colour may be to be seen.
+void keepFromBlack(QPalette& palette, const QColor& other) {
+    const toolkit::Colour ground = number(palette.color(QPalette::Window));
+    palette.setColor(QPalette::Window,
+                     colour(toolkit::seenBeside(toolkit::kBlack, ground, number(other))));
 }
 
 // Circles and frames are drawn in a dark shade of the ground.
 QPalette withVisibleLines(QPalette palette) {
-    if (contrast(palette.color(QPalette::Window), Qt::black) < kReadable)
-        palette.setColor(QPalette::Window, palette.color(QPalette::WindowText));
+    keepFromBlack(palette, palette.color(QPalette::WindowText));
     return palette;
 }
 
@@ -34,21 +32,23 @@ bool isDrawnInLines(QStyle::PrimitiveElement element) {
 // The title of the page in front is drawn in white on the highlight, others in black on the ground.
 QPalette withReadableTitle(QPalette palette) {
     QColor front = palette.color(QPalette::Highlight);
-    while (contrast(front, Qt::white) < kReadable)
+    while (toolkit::contrast(number(front), toolkit::kWhite) < toolkit::kReadable)
         front = front.darker(115);
     palette.setColor(QPalette::Highlight, front);
-    if (contrast(palette.color(QPalette::Window), Qt::black) < kReadable)
-        palette.setColor(QPalette::Window, Qt::gray);
+    keepFromBlack(palette, Qt::gray);
     return palette;
 }
 
-} // namespace
+constexpr int kFocusLine = 2; // logical pixels
 
-double contrast(const QColor& one, const QColor& other) {
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return a > b ? a / b : b / a;
+// The highlight where it can be seen on the ground, else the colour of texts.
+QColor focusColour(const QPalette& palette) {
+    return colour(toolkit::seenBeside(
+        number(palette.color(QPalette::Window)), number(palette.color(QPalette::Highlight)),
+        number(palette.color(QPalette::WindowText)), toolkit::kNoticed));
 }
+
+} // namespace
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
@@ -57,6 +57,20 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     auto* const drawn = const_cast<QStyleOption*>(option); // of a kind that only the style knows
     const QScopedValueRollback palette(drawn->palette, withVisibleLines(drawn->palette));
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* const ring = qobject_cast<const QFocusFrame*>(widget);
+    if (element != CE_FocusFrame || !ring || !ring->widget())
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    const QPalette palette = ring->widget()->parentWidget()->palette();
+    const auto frame = [&](const QColor& colour, double width, double inset) {
+        painter->setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->drawRect(QRectF(option->rect).adjusted(inset, inset, -inset, -inset));
+    };
+    frame(focusColour(palette), kFocusLine, kFocusLine / 2.0);
+    frame(palette.color(QPalette::Base), 1, kFocusLine + 0.5); // off a dark control
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -72,7 +86,16 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 // No header is resized with the mouse, so its cells take clicks up to their edges.
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
                        const QWidget* widget) const {
-    return metric == PM_HeaderGripMargin ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+    return metric == PM_HeaderGripMargin || metric == PM_FocusFrameHMargin ||
+                   metric == PM_FocusFrameVMargin
+               ? 0
+               : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* data) const {
+    return hint == SH_FocusFrame_AboveWidget ? 1
+                                             : QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 } // namespace desktop_qt
