@@ -80,6 +80,7 @@ private:
     }
 
     void showBars();
+    void showBar(const Axis& axis, int room);
     void scrollTo(const Axis& axis, int position);
     void scroll(const Axis& axis, WORD how);
     void showRow();
@@ -104,16 +105,33 @@ void MSFlexGridWindow::changed(toolkit::Prop which) {
     }
 }
 
+// Each bar takes room from the other direction, so the room without any of them counts: two bars
+// that are there already would seem to need each other.
 void MSFlexGridWindow::showBars() {
-    for (const Axis& axis : {columns(), rows(), columns()}) { // each takes room from the other
-        const int fixed = sizes(axis, 0, std::min(axis.fixed, axis.count));
-        SCROLLINFO info{};
-        info.cbSize = sizeof info;
-        info.fMask = SIF_RANGE | SIF_PAGE;
-        info.nMax = std::max(0, sizes(axis, axis.fixed, axis.count) - 1);
-        info.nPage = static_cast<UINT>(std::max(1, room(axis) - fixed));
-        SetScrollInfo(handle(), axis.bar, &info, TRUE);
-    }
+    RECT all{}, edges{};
+    GetWindowRect(handle(), &all);
+    AdjustWindowRectExForDpi(&edges, 0, FALSE, WS_EX_CLIENTEDGE, static_cast<UINT>(dpi()));
+    const auto thickness = [this](int metric) {
+        return GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi()));
+    };
+    const int wide = sizes(columns(), 0, grid_.cols()), high = sizes(rows(), 0, grid_.rows());
+    int width = all.right - all.left - (edges.right - edges.left);
+    int height = all.bottom - all.top - (edges.bottom - edges.top);
+    const bool down = high > height || (wide > width && high > height - thickness(SM_CYHSCROLL));
+    width -= down ? thickness(SM_CXVSCROLL) : 0;
+    height -= wide > width ? thickness(SM_CYHSCROLL) : 0;
+    showBar(columns(), width);
+    showBar(rows(), height);
+}
+
+void MSFlexGridWindow::showBar(const Axis& axis, int room) {
+    const int fixed = sizes(axis, 0, std::min(axis.fixed, axis.count));
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = std::max(0, sizes(axis, axis.fixed, axis.count) - 1);
+    info.nPage = static_cast<UINT>(std::max(1, room - fixed));
+    SetScrollInfo(handle(), axis.bar, &info, TRUE);
 }
 
 void MSFlexGridWindow::scrollTo(const Axis& axis, int position) {
