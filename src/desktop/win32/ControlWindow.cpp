@@ -71,6 +71,7 @@ void ControlWindow::make(const std::shared_ptr<ControlWindow>& it, HWND parent, 
     create(it, {kind, style, extended, parent, {}});
     it->showCaption();
     it->lookChanged();
+    it->showToolTip();
     ShowWindow(it->handle(), control.Visible ? SW_SHOWNA : SW_HIDE);
 }
 
@@ -89,6 +90,8 @@ void ControlWindow::changed(Prop which) {
         if (control_.speaks)
             NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
         return showLook();
+    case Prop::ToolTipText:
+        return showToolTip();
     case Prop::Left:
     case Prop::Top:
     case Prop::Width:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/win32/Look.h"
+#include "desktop/win32/ToolTip.h"
 #include "desktop/win32/Window.h"
 #include "toolkit/Form.h"
 
@@ -42,6 +43,7 @@ protected:
 
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
     virtual void showCaption();
+    virtual void showToolTip() { toolTip_.show(handle(), control_.ToolTipText); }
     // Follows the colours and the font.
     virtual void showLook();
     // Where the control shall stand in its parent, in pixels.
@@ -51,6 +53,7 @@ protected:
     void reportFocus();
 
     toolkit::Control& control_;
+    ToolTip toolTip_;
 };
 
 // A control in the program's own painting.

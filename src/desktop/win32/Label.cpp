@@ -12,7 +12,8 @@ public:
 
     static std::shared_ptr<ControlWindow> make(toolkit::Label& label, HWND parent) {
         const auto it = std::make_shared<LabelWindow>(label);
-        ControlWindow::make(it, parent, L"STATIC", SS_NOPREFIX);
+        ControlWindow::make(it, parent, L"STATIC",
+                            SS_NOPREFIX | (label.shrinksText ? SS_NOTIFY : 0)); // for its tip
         return it;
     }
 
@@ -36,10 +37,19 @@ protected:
         ControlWindow::showCaption();
         place();
         repaint();
+        showToolTip();
+    }
+    // Of a text that is cut off it tells the whole.
+    void showToolTip() override {
+        const bool cut =
+            label_.shrinksText && extent(wide(label_.Caption), shownFont(room())).cx > room();
+        toolTip_.show(handle(), cut ? label_.Caption : label_.ToolTipText);
     }
     RECT rectangle() const override;
 
 private:
+    // The width that a text has within the border.
+    int room() const { return areaAt({0, 0}).right - (label_.BorderStyle ? 2 * kMargin : 0); }
     HFONT shownFont(int width) const {
         return label_.shrinksText ? fittingFont(label_.font(), dpi(), wide(label_.Caption), width)
                                   : font(label_.font(), dpi());
@@ -49,6 +59,8 @@ private:
     }
     UINT format() const;
 
+    static constexpr int kMargin = 2; // between the edge and the text, with the border
+
     toolkit::Label& label_;
 };
 
@@ -56,9 +68,9 @@ UINT LabelWindow::format() const {
     UINT how = DT_NOPREFIX;
     if (label_.BorderStyle)
         how |= DT_VCENTER | DT_SINGLELINE;
-    else if (label_.shrinksText)
+    if (label_.shrinksText)
         how |= DT_END_ELLIPSIS | DT_SINGLELINE;
-    else if (label_.wraps())
+    if (label_.wraps())
         how |= DT_WORDBREAK;
     switch (label_.shownAlign()) {
     case toolkit::Alignment::Right:
@@ -87,10 +99,11 @@ void LabelWindow::paintAt(HDC dc, POINT place) {
     if (label_.BorderStyle) {
         SetDCBrushColor(dc, static_cast<COLORREF>(toolkit::kBorder));
         FrameRect(dc, &area, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+        InflateRect(&area, -kMargin, 0);
     }
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, textColour());
-    HGDIOBJ const before = SelectObject(dc, shownFont(area.right - area.left));
+    HGDIOBJ const before = SelectObject(dc, shownFont(room()));
     const std::wstring caption = wide(label_.Caption);
     DrawTextW(dc, caption.c_str(), static_cast<int>(caption.size()), &area, format());
     SelectObject(dc, before);
