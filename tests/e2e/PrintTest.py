@@ -4,13 +4,15 @@ The server is a copy of the machine's, with configuration, socket, spool and pri
 that neither the machine's printers nor its confinement of the server play a part. Its backend runs
 as root only."""
 
+import itertools
 import os
 import pathlib
 import re
 import subprocess
 import time
+import unicodedata
 
-from desk import APP, PLACE, Road, keys, output, until
+from desk import APP, PLACE, SYSTEM, Road, keys, output, system, until
 
 CUPS, PRINTED = PLACE + "/cups", pathlib.Path(PLACE + "/printed")
 AS_ROOT = () if os.geteuid() == 0 else ("sudo", "-n")
@@ -92,10 +94,11 @@ def lines():
     """Of the page that has come out of the printer."""
     until(lambda: list(PRINTED.glob("*.pdf")) and not output("lpstat", check=False), "a page")
     page = output("pdftohtml", "-xml", "-i", "-zoom", 3, "-stdout", *PRINTED.glob("*.pdf")).decode()
+    page = unicodedata.normalize("NFKC", page)  # a font draws several blanks and semicolons alike
     fonts = {font: f"{size} {colour}" for font, size, colour in re.findall(
         r'<fontspec id="(\d+)" size="(\d+)".*? color="(\S+)"', page)}
-    found, line = re.findall(r'<page .*?height="(\d+)" width="(\d+)"', page), None
-    found = [" ".join(found[0])]
+    found = [" ".join(re.search(r'<page .*?height="(\d+)" width="(\d+)"', page).groups())]
+    line = None
     for top, left, width, font, text in re.findall(
             r'<text top="(\d+)" left="(\d+)" width="(\d+)".*? font="(\d+)">(.*)</text>', page):
         styles = "".join(style for style in "bi" if f"<{style}>" in text)
@@ -109,6 +112,13 @@ def lines():
     return [line.rstrip() for line in found if line.strip()]
 
 
+def near(line, wanted):
+    """Whether a line has the words wanted, and numbers within 2 % of those wanted."""
+    pairs = list(itertools.zip_longest(line.split(" "), wanted.split(" "), fillvalue=""))
+    return all(one == other or (one + other).isdigit() and abs(int(one) / int(other) - 1) < 0.02
+               for one, other in pairs)
+
+
 class PrintOut(Road):
     def test_a_failing_printer_is_asked_about_line_by_line_and_a_running_one_prints_the_page(self):
         self.addCleanup(output, *AS_ROOT, "rm", "-rf", CUPS, PRINTED, BACKEND_CONFIGURATION)
@@ -118,12 +128,16 @@ class PrintOut(Road):
         os.environ.update(CUPS_SERVERROOT=CUPS, CUPS_SERVER=CUPS + "/socket")
         self.write_data("[Favorites]", "1.5;9;14;22;36;44;", "2.4;9;;;;;", "3.as it was: ä",
                         "9." + "0" * 10000, "10.;;;;;;")
-        program = self.run_program(locale="de_DE.UTF-8", FONTCONFIG_FILE=PLACE + "/fonts.conf")
-        program.tool("Favorites")
-        program.page("Favorites")
-        failures = 0
+        program, failures = None, 0
+
+        def start():
+            nonlocal program, failures
+            program, failures = self.run_program(locale="de_DE.UTF-8",
+                                                 FONTCONFIG_FILE=PLACE + "/fonts.conf"), 0
 
         def choose_print():  # the last entry of the page's own menu, which is the second of the bar
+            program.tool("Favorites")
+            program.page("Favorites")
             keys("alt", "Right", "Down", "Up", "Return")
 
         def answer(button):
@@ -135,22 +149,29 @@ class PrintOut(Road):
                     '"Description: Printer error"\n#') == failures, "the failure in the log")
             program.answer(button)
 
+        start()
         choose_print()  # with no server at all: at each of the 16 lines and at the end
         for _ in range(17):
             answer("Ignore")
-        program.page("Favorites")
         server = start_server()
         self.addCleanup(server.wait)
         self.addCleanup(output, *AS_ROOT, "kill", server.pid)
+        add_printer()
+        if SYSTEM == "windows":  # Wine looks for printers when a program starts
+            program.end_session()
+            program.process.wait(10)
+            start()
+        system.hold_printer("PDF", True)
         choose_print()
         program.box()
-        add_printer()
-        output("cupsdisable", "PDF")
+        output("cupsreject", "PDF")
+        system.hold_printer("PDF", False)
         answer("Retry")
         program.box()
-        output("cupsenable", "PDF")
+        output("cupsaccept", "PDF")
         answer("Retry")
-        self.assertEqual(lines(), PAGE)
+        self.assertEqual([wanted if near(line, wanted) else line for line, wanted
+                          in itertools.zip_longest(lines(), PAGE, fillvalue="")], PAGE)
         self.assertEqual(output("lpstat", "-W", "all").count(b"\n"), 1)
         program.end_session()
         self.assertEqual(program.process.wait(10), 0)

@@ -92,6 +92,10 @@ def end_session(process):
     process.send_signal(signal.SIGTERM)
 
 
+def hold_printer(name, held):
+    subprocess.run(["cupsdisable" if held else "cupsenable", name], check=True)
+
+
 def windows(process):
     """Of this run; those of an earlier one can linger on the bus."""
     return [window for application in Node(Atspi.get_desktop(0)).children(every=True)

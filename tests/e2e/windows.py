@@ -13,6 +13,7 @@ ROLES = {24: "table", 25: "table column header", 26: "table row header", 29: "ta
          40: "image", 41: "label", 43: "push button"}
 ROW_HEADER = 26
 SPOKEN_STATES = {"SELECTED": 2, "FOCUSED": 4}
+PRINTERS = "HKLM\\System\\CurrentControlSet\\Control\\Print\\Printers\\"
 NO_WINDOWS = "tooltips_class32", "#32768"  # tool tips and opened menus
 
 
@@ -118,6 +119,12 @@ def windows(process):
 
 def end_session(process):
     ask(f"end {windows(process)[0].window}")
+
+
+def hold_printer(name, held):
+    """Wine doesn't tell of a paused printer, but of one that its user has put off line."""
+    subprocess.run([WINE, "reg", "add", PRINTERS + name, "/v", "Attributes", "/t", "REG_DWORD",
+                    "/d", "0x400" if held else "0", "/f"], stdout=subprocess.DEVNULL, check=True)
 
 
 def part(frame, role):

@@ -105,14 +105,24 @@ int dots(double twips, int perInch) {
                   static_cast<int>(toolkit::kTwipsPerInch));
 }
 
-// The device counts from the corner of the printable area, and cuts off what lies beyond it.
+// The device counts from the corner of the printable area. What lies beyond it is cut off here, as
+// not every driver does so.
 void draw(HDC device, const toolkit::PrintedText& line) {
     const Selected font(device, line.font);
+    const RECT area{0, 0, GetDeviceCaps(device, HORZRES), GetDeviceCaps(device, VERTRES)};
+    const int left = dots(line.left, GetDeviceCaps(device, LOGPIXELSX));
+    const int top = dots(line.top, GetDeviceCaps(device, LOGPIXELSY));
     const std::wstring text = wide(line.text);
+    const int length = static_cast<int>(std::min(text.size(), kLongestText));
+    int fitting = 0;
+    SIZE size;
+    if (!GetTextExtentExPointW(device, text.c_str(), length, area.right - left, &fitting, nullptr,
+                               &size))
+        fail();
     SetTextColor(device, static_cast<COLORREF>(line.colour));
-    if (!TextOutW(device, dots(line.left, GetDeviceCaps(device, LOGPIXELSX)),
-                  dots(line.top, GetDeviceCaps(device, LOGPIXELSY)), text.c_str(),
-                  static_cast<int>(std::min(text.size(), kLongestText))))
+    // One character more than fit, which the edge cuts.
+    if (!ExtTextOutW(device, left, top, ETO_CLIPPED, &area, text.c_str(),
+                     static_cast<UINT>(std::min(fitting + 1, length)), nullptr))
         fail();
 }
 
