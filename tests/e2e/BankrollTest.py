@@ -62,13 +62,14 @@ class Bankroll(Road):
 
     def test_a_wrong_amount_is_refused_once_whatever_takes_the_focus_and_esc_gives_it_up(self):
         program, page = self.open()
-        program.tool("6 from 49")
-        numbers = program.page("6 From 49")
+        program.tool("Customize Six")
+        rows = program.page("Customize 6")
         program.tool("Bankroll")
         wins = program.page("Bankroll")["text", "Winnings"]
         for way in (lambda: keys("Tab"), lambda: click(page["text", "Largest Win"]),
                     lambda: page.press("Calculator"), lambda: program.tool("6 from 49"),
-                    lambda: numbers.press("Generate Jackpot"), lambda: page.press("Close")):
+                    lambda: rows.press("Jackpot Generator"), lambda: click(rows.cell(3)),
+                    lambda: page.press("Close")):
             click(wins)
             keys(*"abc")
             way()
@@ -76,7 +77,8 @@ class Bankroll(Road):
             until(lambda: wins.has("FOCUSED") and not wins.text, "the box")
             program.page("Bankroll")  # it has stayed in front
         keys(*"abc", "Escape")
-        program.page("6 From 49")
+        program.page("Customize 6")
+        self.assertEqual((rows.chosen(), rows.drawn()), (1, []))
         program.tool("Bankroll")
         program.page("Bankroll").press("Calculator")
         until(lambda: xdotool("search", "--onlyvisible", "--class", "galculator"), "the calculator")

@@ -121,15 +121,15 @@ private:
 
     void clickHeader() {
         setFocus(Qt::MouseFocusReason);
-        if (MSFlexGrid* const it = grid())
+        if (MSFlexGrid* const it = grid(); it && hasFocus())
             it->clickRow(0);
     }
     void tell(void (MSFlexGrid::*what)(int), const QMouseEvent* event) {
         MSFlexGrid* const it = grid();
         if (!it || event->button() != Qt::LeftButton)
             return;
-        const int row = rowAt(event->position().toPoint().y());
-        (it->*what)(row < 0 ? row : row + it->FixedRows);
+        const QModelIndex cell = indexAt(event->position().toPoint());
+        (it->*what)(cell.isValid() ? cell.row() + it->FixedRows : -1);
     }
 };
 

@@ -13,6 +13,7 @@
 #include <QFocusFrame>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
@@ -37,6 +38,12 @@ void waitUntilShown(QWidget& window) {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
                                         QEventLoop::WaitForMoreEvents);
     window.repaint();
+}
+
+// Where the focus that a press moves brings up a message box, the widget would learn of the press
+// when the mouse is long released and no release will follow: such a press is none.
+bool comesLate(const QMouseEvent& press) {
+    return press.spontaneous() && !QGuiApplication::mouseButtons().testFlag(press.button());
 }
 
 } // namespace
@@ -185,6 +192,8 @@ bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
         sessionEnds(); // Qt would close the windows, as the user does, with a question
         return true;
     }
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
+        return comesLate(static_cast<const QMouseEvent&>(*event));
     const bool override = event->type() == QEvent::ShortcutOverride;
     if ((!override && event->type() != QEvent::KeyPress) || !watched->isWindowType())
         return QObject::eventFilter(watched, event);

@@ -2,7 +2,6 @@
 #include "toolkit/Keyboard.h"
 
 #include <QFocusEvent>
-#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -44,9 +43,7 @@ protected:
         QLineEdit::focusInEvent(event);
     }
     void mousePressEvent(QMouseEvent* event) override {
-        // Behind a message box the press is told when the mouse is long released.
-        const bool late = !QGuiApplication::mouseButtons().testFlag(event->button());
-        entering_ = late || (std::exchange(entered_, false) && hasSelectedText());
+        entering_ = std::exchange(entered_, false) && hasSelectedText();
         if (!entering_)
             QLineEdit::mousePressEvent(event);
     }
