@@ -20,7 +20,7 @@ using platform::DateTime;
 struct Token {
     std::string marks; // without the blanks
     bool blank = false;
-    bool behindWord = false; // or first in the text
+    bool behindWord = true; // or first in the text
     const DateWord* word = nullptr;
     std::size_t digits = 0; // of a number
     int value = 0;
@@ -50,7 +50,6 @@ Tokens tokensIn(std::string_view text, const DateWords& words) {
     constexpr std::size_t kMostDigits = 4;
     Tokens tokens;
     Token next;
-    next.behindWord = true;
     while (!text.empty()) {
         std::size_t length = 1;
         if (isDigit(text.front())) {
