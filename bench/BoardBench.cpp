@@ -10,8 +10,8 @@
 #include "lists/frmCustomize6.h"
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
+#include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/Forms.h"
 
 #include <QApplication>
 #include <QMdiArea>

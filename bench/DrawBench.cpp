@@ -4,8 +4,8 @@
 #include "numbers/cLotto.h"
 #include "numbers/frmMain.h"
 #include "platform/StandardRandom.h"
+#include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/Forms.h"
 
 #include <benchmark/benchmark.h>
 

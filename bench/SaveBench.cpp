@@ -1,7 +1,6 @@
 // The time of saving the data file against that of putting the same bytes in its place with the
 // plain system calls, as durably, in turns. Usage: save_bench [turns] [directory]
 #include "storage/cQuorvantaLite.h"
-#include "tests/support/DataFile.h"
 #include "tests/support/RealFiles.h"
 
 #include <algorithm>
@@ -69,7 +68,6 @@ int main(int count, char** arguments) {
     if (count > 2)
         ::setenv("TMPDIR", arguments[2], 1);
     tests::RealFilesPlatform system;
-    tests::ErrorBoxes boxes;
     const std::string text = tests::wholeFile();
     system.files.create("Quorvanta.txt", text);
     quorvanta::cQuorvantaLite().ReadLottoFile();
@@ -95,7 +93,7 @@ int main(int count, char** arguments) {
     for (int turn = 0; turn < turns; ++turn)
         for (Contender& contender : contenders)
             contender.times.push_back(microseconds([&] { contender.turn(turn); }));
-    must(boxes.boxes.empty());
+    must(system.boxes.boxes.empty());
 
     std::cout << turns << " turns of " << text.size() << " bytes, in microseconds\n";
     return report(contenders) ? 0 : 1;

@@ -11,7 +11,6 @@ namespace {
 using namespace quorvanta;
 using namespace tests;
 
-using Texts = std::vector<std::string>;
 const std::string kNumeric = "Please enter only a Numeric value",
                   kEnterDate = "Please enter a date";
 

@@ -95,10 +95,10 @@ TEST_F(Conversions, WhatIsNoNumberIsATypeMismatchAndATooLargeOneAnOverflow) {
 }
 
 // A time that grows with the square of the size would not end.
-TEST_F(Conversions, TextOfAHundredMegabytesIsRead) {
-    const std::string text(100'000'000, '9');
+TEST_F(Conversions, TextOfTenMegabytesIsRead) {
+    const std::string text(10'000'000, '9');
     EXPECT_EQ(failureOf(CDbl, text), platform::Overflow);
-    EXPECT_EQ(CDbl(text + "e-99999999"), 10);
+    EXPECT_EQ(CDbl(text + "e-9999999"), 10);
     EXPECT_EQ(ReadDate(text), std::nullopt);
 }
 

@@ -7,8 +7,8 @@
 namespace {
 
 using namespace quorvanta;
-using tests::stored, tests::StoredValues, toolkit::Retry, toolkit::Ignore, toolkit::Abort;
-using Texts = std::vector<std::string>;
+using tests::Texts, tests::stored, tests::StoredValues, toolkit::Retry, toolkit::Ignore,
+    toolkit::Abort;
 
 class DataFile : public tests::ProgramTest {
 protected:

@@ -9,7 +9,7 @@
 #include "numbers/frmMain.h"
 #include "platform/LocaleItems.h"
 #include "storage/cQuorvantaLite.h"
-#include "tests/support/ListPages.h"
+#include "tests/support/ProgramTest.h"
 
 #include <cmath>
 #include <set>
@@ -74,7 +74,7 @@ TEST_F(FailuresTest, RoutinesOfThePagesReportUnderLabelsOfTheirOwn) {
 
     auto& favorites = open<frmFavorites>();
     fail(favorites.statBar1);
-    userKey(favorites, kCtrlKey, 2);
+    userKey(favorites, toolkit::key::Ctrl, 2);
     EXPECT_EQ(reported(), Labels{"maincode_zw.SetStatBarText"});
     favorites.statBar1.attach(nullptr);
     userClickRow(favorites.grd1, 2);

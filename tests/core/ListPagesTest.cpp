@@ -1,6 +1,6 @@
 // What both pages of number rows do, and what each of them does in its own way.
-#include "tests/support/ListPages.h"
 #include "lists/cFlexGrid.h"
+#include "tests/support/ProgramTest.h"
 
 namespace {
 
@@ -59,94 +59,81 @@ TYPED_TEST(ListPagesTest, TheFirstRowWithoutAFirstNumberIsFilledAndThenTheLimitC
                                                                           : "Do you want"));
 }
 
-TYPED_TEST(ListPagesTest, OnlyYesDeletesAndEachWayOutLeavesItsOwnCurrentRow) {
+// Does what a text tells: a digit clicks a row, 0 the header.
+template <class Page>
+void play(Page& page, const std::string& events) {
+    const std::map<char, std::function<void()>> known{
+        {'*', [&] { page.grd1.doubleClickRow(page.grd1.row()); }}, // behind its first click
+        {'C', [&] { userKey(page, toolkit::key::Ctrl, toolkit::CtrlDown); }},
+        {'S', [&] { userKey(page, toolkit::key::Ctrl, toolkit::CtrlDown | toolkit::ShiftDown); }},
+        {'D', [&] { page.mnuDeleteGridRow.click(); }},
+        {'E', [&] { page.mnuReset.click(); }},
+        {'R', [&] { userClick(page.cmdReset); }},
+        {'P', [&] { pick(page, {1}); }},
+        {'X', [&] { userClick(page.cmdCancel); }}};
+    for (const char event : events)
+        std::isdigit(event) ? userClickRow(page.grd1, event - '0') : known.at(event)();
+}
+
+TYPED_TEST(ListPagesTest, OnlyYesDeletesAndShiftModeSwapsTwoFilledRowsAndEnds) {
     struct Case {
-        std::string before;
-        int row; // double clicked; 0 for the menu entry right after opening, -1 after a picked key
+        std::string before, events;
         int answer;
-        std::string after, box;
+        std::string after, boxes; // the beginning of each
         int current, currentFavorites;
+        bool shiftMode = false;
     };
-    for (const Case& c : std::vector<Case>{{"1234567812", 9, Yes, "123456782-", "Do", 0, 0},
-                                           {"12345", 3, No, "12345-----", "Do", 0, 1},
-                                           {"12345", 3, Cancel, "12345-----", "Do", 0, 1},
-                                           {"12345", 7, Yes, "12345-----", "Yo", 7, 0},
-                                           {"12", 0, Yes, "2---------", "Do", 0, 0},
-                                           {"12345", -1, Yes, "12345-----", "Yo", 0, 0},
-                                           // Of an edited file; one pass moves each row up once.
-                                           {"12--5", 1, Yes, "2--5------", "Do", 0, 0}}) {
-        SCOPED_TRACE(c.before + ", row " + std::to_string(c.row));
+    const std::string five = "12345-----", swapped = "14325-----";
+    const bool here = this->kCustomize;
+    for (const Case& c :
+         std::vector<Case>{{"1234567812", "9*", Yes, "123456782-", "Do", 0, 0},
+                           {five, "3*", No, five, "Do", 0, 1},
+                           {five, "3*", Cancel, five, "Do", 0, 1},
+                           {five, "7*", Yes, five, "Yo", 7, 0},
+                           {"12", "D", Yes, "2---------", "Do", 0, 0}, // right after opening
+                           {five, "PD", Yes, five, "Yo", 0, 0},
+                           // Of an edited file; one pass moves each row up once.
+                           {"12--5", "1*", Yes, "2--5------", "Do", 0, 0},
+                           {five, "C2413", Yes, swapped, "", 3, 3},
+                           {five, "C22", Yes, five, "", 2, 2},
+                           {five, "C2C4", Yes, five, "", 4, 4},
+                           {five, "C2CC4", Yes, five, "", 4, 4, true},
+                           {five, "S24", Yes, five, "", 4, 4},
+                           {five, "C264", Yes, swapped, "Th", 4, 4},
+                           {five, "C024", Yes, swapped, "", 4, 4},
+                           {five, "C2E04", Yes, swapped, "", 4, 4}, // the header picks no row
+                           {five, "C2R4", Yes, five, "", 4, 4},
+                           {five, "C5*", Yes, "1234------", "Do", 0, 0, here},
+                           // The first pick is gone.
+                           {five, "C5*2", Yes, "1234------", here ? "DoTh" : "Do", 2, 2}}) {
+        SCOPED_TRACE(c.before + " " + c.events);
         auto& page = this->open(c.before);
         this->desk.answers = {c.answer};
-        if (c.row > 0)
-            userDoubleClickRow(page.grd1, c.row);
-        if (c.row < 0)
-            pick(page, {1});
-        if (c.row <= 0)
-            page.mnuDeleteGridRow.click();
-        EXPECT_EQ(this->desk.takeBoxes().at(0).substr(0, 2), c.box);
+        play(page, c.events);
+        std::string boxes;
+        for (const auto& text : this->desk.takeBoxes())
+            boxes += text.substr(0, 2);
+        EXPECT_EQ(boxes, c.boxes);
         EXPECT_EQ(tell(this->rows), c.after); // stored before the page is closed
-        EXPECT_EQ(page.grd1.row(), this->kCustomize ? c.current : c.currentFavorites);
-        EXPECT_EQ(page.grd1.text(4, 0), "4.");
+        EXPECT_EQ(page.grd1.row(), here ? c.current : c.currentFavorites);
+        EXPECT_EQ(page.statBar1.Panels(1).get(), c.shiftMode ? "Shift mode" : "");
+        EXPECT_EQ(page.grd1.text(0, 1) + page.grd1.text(4, 0), "# 14.");
         page.Unload();
     }
 }
 
-TYPED_TEST(ListPagesTest, ShiftModeSwapsTwoFilledRowsAndEnds) {
-    using Event = std::function<void(TypeParam&)>;
-    const auto row = [](int number) -> Event {
-        return [=](auto& page) { userClickRow(page.grd1, number); };
-    };
-    const Event ctrl = [](auto& page) { userKey(page, kCtrlKey, 2); };
-    const Event ctrlAndShift = [](auto& page) { userKey(page, kCtrlKey, 3); };
-    const Event resetButton = [](auto& page) { userClick(page.cmdReset); };
-    const Event resetEntry = [](auto& page) { page.mnuReset.click(); };
-    const Event deleteRow5 = [](auto& page) { userDoubleClickRow(page.grd1, 5); };
-    struct Case {
-        std::vector<Event> events;
-        bool on;
-        std::string after = "12345-----";
-        std::size_t boxes = 0;
-    };
-    const Case cases[] = {
-        {{ctrl, row(2), row(4), row(1), row(3)}, false, "14325-----"},
-        {{ctrl, row(2), row(2)}, false},
-        {{ctrl, row(2), ctrl, row(4)}, false},
-        {{ctrl, row(2), ctrl, ctrl, row(4)}, true},
-        {{ctrlAndShift, row(2), row(4)}, false},
-        {{ctrl, row(2), row(6), row(4)}, false, "14325-----", 1},
-        {{ctrl, row(0), row(2), row(4)}, false, "14325-----"},
-        // The header picks no row.
-        {{ctrl, row(2), resetEntry, row(0), row(4)}, false, "14325-----"},
-        {{ctrl, row(2), resetButton, row(4)}, false},
-        {{ctrl, deleteRow5}, this->kCustomize, "1234------", 1},
-        // Row 5, the first pick, is gone.
-        {{ctrl, deleteRow5, row(2)}, false, "1234------", this->kCustomize ? 2U : 1U}};
-    for (const Case& c : cases) {
-        SCOPED_TRACE("case " + std::to_string(&c - cases));
-        auto& page = this->open();
-        this->desk.answers = {Yes};
-        for (const Event& event : c.events)
-            event(page);
-        EXPECT_EQ(page.statBar1.Panels(1).get(), c.on ? "Shift mode" : "");
-        EXPECT_EQ(tell(this->rows), c.after);
-        EXPECT_EQ(page.grd1.text(0, 1), "# 1");
-        EXPECT_EQ(this->desk.takeBoxes().size(), c.boxes);
-        page.Unload();
-    }
-}
-
-class GridRowsTest : public ProgramTest {};
-
-TEST_F(GridRowsTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
+TEST_F(ProgramTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
     auto& grid = open<frmFavorites>().grd1;
+    EXPECT_EQ(std::pair(grid.Width.get(), grid.Height.get()),
+              std::pair(6 * 480 + 960 + 150.0, 11 * 240 + 100.0));
+    EXPECT_EQ(grid.text(0, 0) + grid.text(0, 6) + grid.text(10, 0), "Favorites# 610.");
     cFlexGrid rows;
     rows.prpGrid.Set(grid.ref());
     rows.prpGridRows = 4;
     rows.prpGridCols = 3;
     for (const int none : {-1, 0, 5}) {
         rows.prpActionToDo = none;
-        EXPECT_EQ(grid.rows() * 100 + grid.cols(), 1107);
+        EXPECT_EQ(std::pair(grid.rows(), grid.cols()), std::pair(11, 7));
     }
     grid.Width = 3002;
     rows.prpActionToDo = cFlexGrid::LayOut;
@@ -156,17 +143,7 @@ TEST_F(GridRowsTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
         EXPECT_EQ(std::pair(grid.ColWidth(c), grid.text(0, c)), std::pair(1001, std::string()));
 }
 
-class FavoritesTest : public ProgramTest {};
-
-TEST_F(FavoritesTest, TheGridIsSizedToItsContent) {
-    const auto& page = open<frmFavorites>();
-    EXPECT_EQ(std::pair(page.grd1.Width.get(), page.grd1.Height.get()),
-              std::pair(6 * 480 + 960 + 150.0, 11 * 240 + 100.0));
-    EXPECT_EQ(page.grd1.text(0, 0) + page.grd1.text(0, 6) + page.grd1.text(10, 0),
-              "Favorites# 610.");
-}
-
-TEST_F(FavoritesTest, ASeventhKeyIsRefusedAndAnyOfTheSixCanBeTakenBack) {
+TEST_F(ProgramTest, ASeventhFavoriteIsRefusedAndAnyOfTheSixCanBeTakenBack) {
     auto& page = open<frmFavorites>();
     pick(page, {10, 20, 30, 40, 5, 6, 7});
     EXPECT_TRUE(desk.takeBoxes().at(0).starts_with("You allready have 6 favorite numbers."));
@@ -174,14 +151,12 @@ TEST_F(FavoritesTest, ASeventhKeyIsRefusedAndAnyOfTheSixCanBeTakenBack) {
     EXPECT_EQ(picked(page), (Numbers{5, 6, 8, 20, 30, 40}));
 }
 
-class Customize6Test : public ProgramTest {};
-
 // Rows that only a file edited by hand can bring.
-TEST_F(Customize6Test, AnOddRowIsStoredAsItWasAndNeverHangsADraw) {
+TEST_F(ProgramTest, AnOddRowIsStoredAsItWasAndNeverHangsADraw) {
     struct Case {
         std::string text;
         Numbers numbers; // six at most, so a draw takes them all
-        std::vector<std::string> reports = {};
+        Texts reports = {};
         std::string cut = ""; // what is lost of the text
     };
     const std::string in = " cLotto.SetCustomNumbers";
@@ -208,17 +183,9 @@ TEST_F(Customize6Test, AnOddRowIsStoredAsItWasAndNeverHangsADraw) {
     }
 }
 
-TEST_F(Customize6Test, ADrawUnderWayBearsWhateverTheUserDoes) {
-    struct Case {
-        std::function<void(frmCustomize6&)> during;
-        std::size_t pool, drawn;
-    };
-    for (const Case& c :
-         std::vector<Case>{{[](auto& page) { userClickRow(page.grd1, 3); }, 7, 6},
-                           {[](auto& page) { userClickRow(page.grd1, 9); }, 0, 1}, // a free row
-                           {[](auto& page) { userDoubleClickRow(page.grd1, 2); }, 7, 6},
-                           {[](auto& page) { userClick(page.cmdReset); }, 49, 6},
-                           {[](auto& page) { userClick(page.cmdCancel); }, 7, 6}}) {
+TEST_F(ProgramTest, ADrawUnderWayBearsWhateverTheUserDoes) {
+    for (const auto& [during, inPool, marked] :
+         {std::tuple("3", 7U, 6U), {"9", 0, 1}, {"2*", 7, 6}, {"R", 49, 6}, {"X", 7, 6}}) {
         fillRows(gstrStammNumbers, "123");
         const auto page =
             std::static_pointer_cast<frmCustomize6>(open<frmCustomize6>().shared_from_this());
@@ -227,12 +194,12 @@ TEST_F(Customize6Test, ADrawUnderWayBearsWhateverTheUserDoes) {
         int yields = 0;
         desk.onDoEvents = [&] {
             if (++yields == 2)
-                c.during(*page);
+                play(*page, during);
         };
         desk.answers = {Yes};
         userClick(page->cmdJackpot);
-        EXPECT_EQ(pool(*page).size(), c.pool);
-        EXPECT_EQ(drawn(*page).size(), c.drawn);
+        EXPECT_EQ(pool(*page).size(), inPool) << during;
+        EXPECT_EQ(drawn(*page).size(), marked) << during;
         page->Unload();
     }
 }

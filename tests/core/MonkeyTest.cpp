@@ -1,7 +1,7 @@
 // Random events on all of the program's forms, with what must always hold checked after each.
 #include "frame/MDIForm1.h"
 #include "storage/cQuorvantaLite.h"
-#include "tests/support/ListPages.h"
+#include "tests/support/ProgramTest.h"
 
 namespace {
 
@@ -37,6 +37,7 @@ protected:
     }
 
     void event() {
+        using namespace toolkit::key;
         ++depth;
         toolkit::Form& form = toolkit::Forms(roll(toolkit::Forms.Count()));
         const auto keep = form.shared_from_this();
@@ -45,8 +46,9 @@ protected:
             form.Unload(toolkit::FormControlMenu);
         else if (what < 8)
             userKey(form,
-                    any<int>({kCtrlKey, 9, 13, 13, 27, 32, 37, 38, 39, 40, 'A', 'F', 'R', 116}),
-                    any<int>({0, 0, 1, 2, 4}));
+                    any<int>({Ctrl, Tab, Enter, Enter, Escape, Space, Left, Up, Right, Down, 'A',
+                              'F', 'R', F1 + 4}),
+                    any<int>({0, 0, toolkit::ShiftDown, toolkit::CtrlDown, toolkit::AltDown}));
         else
             onControl(form);
         --depth;

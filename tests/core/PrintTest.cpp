@@ -1,4 +1,4 @@
-#include "tests/support/ListPages.h"
+#include "tests/support/ProgramTest.h"
 
 namespace {
 

@@ -1,13 +1,12 @@
 // What the program's forms say to their user, and the guide that tells of it.
 #include "bankroll/frmBankroll.h"
-#include "common/ErrorReport.h"
 #include "common/frmURL.h"
 #include "common/modZWMsg.h"
 #include "frame/MDIForm1.h"
 #include "frame/frmAbout.h"
 #include "frame/frmSplash.h"
 #include "numbers/frmMain.h"
-#include "tests/support/ListPages.h"
+#include "tests/support/ProgramTest.h"
 
 #include <fstream>
 #include <iterator>
@@ -150,20 +149,81 @@ TEST_F(TextsTest, FormsHaveTheirMenusCaptionsToolTipsAndOrder) {
         EXPECT_EQ(told(toolkit::Forms(i)), forms[i]);
 }
 
-TEST_F(TextsTest, TheGuideNamesEveryMessage) {
-    for (void (*show)() :
-         {+[] { msgExit(); }, +[] { msgDeleteGridRow(); }, &msgOnlySixNumbers,
-          &msgMoreNumbersRequired, &msgMaxFavoriteNumbers, &msgNotEnoughStammNumbers,
-          &msgMaxStammNumbers, &msgNoEmptyRow, &msgNoDeleteRow, &msgNumericOnly, &msgEnterDate})
-        show();
-    ShowErrorBox(platform::PrinterError, "", "");
-    EXPECT_EQ(desk.boxes.size(), 12U);
-    for (const std::string& text : desk.takeBoxes())
-        expectInGuide(text);
-    expectInGuide(frmURL::the().lbl1.Caption);
+TEST_F(TextsTest, EachMessageShowsItsOwnBoxReportsUnderItsOwnLabelAndIsInTheGuide) {
+    using Buttons = toolkit::MessageBox::Buttons;
+    using enum toolkit::MessageBox::Icon;
+    struct Message {
+        void (*show)();
+        std::string label;
+        toolkit::MessageBox::Icon icon;
+        std::string text;
+        Buttons buttons = Buttons::OK;
+        int defaultButton = 1;
+    };
+    const Message messages[] = {
+        {[] { msgDeleteGridRow(); }, "modZWMsg.msgDeleteGridRow", Question,
+         "Do you want to delete this row from the grid?", Buttons::YesNoCancel, 2},
+        {msgOnlySixNumbers, "modZWMsg.msgOnlySixNumbers", Exclamation,
+         "You allready have 6 favorite numbers.\r\nQuor Vanta  limits you to 6 numbers.\r\n"
+         "To continue, either deselect a number or start a new favorite numbers listing."},
+        {msgMoreNumbersRequired, "XXX.msgMoreNumbersRequired", Exclamation,
+         "You must have at least 2 Favorite numbers before filing to grid"},
+        {msgMaxFavoriteNumbers, "modZWMsg.msgMaxFavoriteNumbers", Exclamation,
+         "You have reached the limit for your Favorite numbers.\r\n"
+         "To add a new row you must first delete one of your other listings"},
+        {msgNotEnoughStammNumbers, "modZWMsg.msgNotEnoughStammNumbers", Exclamation,
+         "You have not selected enough numbers to file-to-grid.\r\n"
+         "Please pick at least seven numbers and try again"},
+        {msgMaxStammNumbers, "modZWMsg.msgMaxStammNumbers", Exclamation,
+         "You have reached the limit for your Customized numbers.\r\n"
+         "To add a new row you must first delete one of your old Customized numbers"},
+        {msgNoEmptyRow, "XXX.msgNoEmptyRow", Information,
+         "The row you have selected is invalid. Please choose one with data in it."},
+        {msgNoDeleteRow, "XXX.msgNoDeleteRow", Exclamation,
+         "You have either not selected a row to delete or there is no data in the row you have "
+         "selected.\r\nPlease select a data filled row to delete before continuing"},
+        {msgNumericOnly, "", Information, "Please enter only a Numeric value"},
+        {msgEnterDate, "", Information, "Please enter a date"}};
+    desk.onBox = [&] {
+        if (desk.boxes.size() == 1)
+            throw platform::RuntimeError(platform::OutOfMemory);
+    };
+    for (const Message& message : messages) {
+        desk.answers = {toolkit::Retry};
+        message.show();
+        const toolkit::MessageBox box = desk.boxes.at(2); // behind the failed one and its report
+        EXPECT_EQ(box.text, message.text);
+        expectInGuide(message.text);
+        EXPECT_EQ(std::tuple(box.title, box.icon, box.buttons, box.defaultButton),
+                  std::tuple("Quor Vanta ", message.icon, message.buttons, message.defaultButton));
+        EXPECT_EQ(desk.takeReports().at(1), "7 " + message.label);
+    }
+}
+
+TEST_F(TextsTest, TwoMessagesFollowTheLanguage) {
+    for (const int language : {2, 0}) {
+        gintLanguage = language;
+        msgNumericOnly();
+        msgEnterDate();
+    }
+    EXPECT_EQ(desk.takeBoxes(), (tests::Texts{"Bitte ein Numeric wert eingaben",
+                                              "Bitte geben Sie eine Datum ein", "", ""}));
+}
+
+TEST_F(TextsTest, ExitAsksYesOrNoAndPassesAFailureOver) {
+    EXPECT_EQ(msgExit(), toolkit::Yes);
+    EXPECT_EQ(desk.boxes[0].buttons, toolkit::MessageBox::Buttons::YesNo);
+    EXPECT_EQ(desk.takeBoxes(), tests::Texts{"Exiting Quor Vanta "});
+    expectInGuide("Exiting Quor Vanta ");
+    desk.onBox = [] { throw platform::RuntimeError(platform::OutOfMemory); };
+    const int answer = msgExit();
+    EXPECT_TRUE(answer != toolkit::Yes && answer != toolkit::No);
+    EXPECT_EQ(desk.boxes.size(), 1U);
 }
 
 TEST_F(TextsTest, TheGuideNamesEveryButtonMenuEntryShortcutAndFile) {
+    expectInGuide(frmURL::the().lbl1.Caption);
+    expectInGuide("An error has occured: ");
     for (const auto& button : MDIForm1::the().tlbar1.Buttons)
         expectInGuide(button.ToolTipText);
     for (int i = 0; i < toolkit::Forms.Count(); ++i) {

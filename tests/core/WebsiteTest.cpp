@@ -2,6 +2,7 @@
 #include "common/frmURL.h"
 #include "frame/MDIForm1.h"
 #include "frame/frmAbout.h"
+#include "platform/Addresses.h"
 #include "tests/support/ProgramTest.h"
 
 #include <set>
@@ -10,7 +11,6 @@ namespace {
 
 using namespace quorvanta;
 using namespace tests;
-using Texts = std::vector<std::string>;
 
 constexpr const char* kHome = "open https://www.zephyrwick.example/";
 constexpr const char* kProduct = "open https://www.zephyrwick.example/prod02.htm";
@@ -36,6 +36,25 @@ TEST_F(WebsiteTest, OnlyLettingAnActionWordLaunchesAndEachTimeAnew) {
         internet.prpAction = word;
         EXPECT_EQ(opened(), launched) << word;
     }
+}
+
+TEST(Addresses, OnlyThoseOfTheWebAndOfMailAreOpened) {
+    const std::pair<std::string, std::string> rows[] = {
+        {"https://a.example/?q=$(x)&`id`;'\"|*>#%20", "https://a.example/?q=$(x)&`id`;'\"|*>#%20"},
+        {"HTTP://a.example", "HTTP://a.example"},
+        {"mailto:a@a.example", "mailto:a@a.example"},
+        {"www.a.example/b", "http://www.a.example/b"},
+        {"WWW.a.example", "http://WWW.a.example"},
+        {"www.", ""},
+        {"wwwa.example", ""},
+        {"file:///etc/passwd", ""},
+        {"/bin/sh", ""},
+        {"--help", ""},
+        {"javascript:x()", ""},
+        {"https://a.example/\n--help", ""},
+        {"www.a.example x", ""}};
+    for (const auto& [text, address] : rows)
+        EXPECT_EQ(platform::addressToOpen(text), address) << text;
 }
 
 TEST_F(WebsiteTest, ALaunchThatCannotBeMadeIsReportedAndRetried) {

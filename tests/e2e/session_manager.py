@@ -10,26 +10,14 @@ ICE, SM = ctypes.CDLL("libICE.so.6"), ctypes.CDLL("libSM.so.6")
 for made in (ICE.IceComposeNetworkIdList, ICE.IceAcceptConnection, SM.SmsGenerateClientID):
     made.restype = c_void_p
 SAVE_BOTH, SAVE_LOCAL, ANY = 2, 1, 2
-kept, client = [], None
-
-
-def proc(result, *arguments):
-    """Makes a callback of C, which has to be kept."""
-    def make(function):
-        kept.append(CFUNCTYPE(result, *arguments)(function))
-        return kept[-1]
-    return make
-
-
-def tell(*words):
-    print(*words, flush=True)
+client = None
 
 
 def save_yourself(kind, shutdown, fast=0):
     SM.SmsSaveYourself(c_void_p(client), kind, shutdown, ANY if shutdown else 0, fast)
 
 
-@proc(c_int, c_void_p, c_void_p, c_void_p)
+@CFUNCTYPE(c_int, c_void_p, c_void_p, c_void_p)
 def register(connection, _data, _previous):
     SM.SmsRegisterClientReply(c_void_p(connection),
                               c_void_p(SM.SmsGenerateClientID(c_void_p(connection))))
@@ -37,18 +25,18 @@ def register(connection, _data, _previous):
     return 1
 
 
-@proc(None, c_void_p, c_void_p, c_int)
+@CFUNCTYPE(None, c_void_p, c_void_p, c_int)
 def done(_connection, _data, success):
-    tell("done", success)
+    print("done", success, flush=True)
     SM.SmsSaveComplete(c_void_p(client))
 
 
-@proc(None, c_void_p, c_void_p, c_void_p, c_void_p)
+@CFUNCTYPE(None, c_void_p, c_void_p, c_void_p, c_void_p)
 def ignore(*_arguments):
     pass
 
 
-@proc(c_int, c_void_p, c_void_p, POINTER(c_ulong), POINTER(c_void_p * 20), c_void_p)
+@CFUNCTYPE(c_int, c_void_p, c_void_p, POINTER(c_ulong), POINTER(c_void_p * 20), c_void_p)
 def new_client(connection, _data, mask, callbacks, _reason):
     global client  # pylint: disable=global-statement
     client, mask[0] = connection, 0x3FF
@@ -57,7 +45,7 @@ def new_client(connection, _data, mask, callbacks, _reason):
     return 1
 
 
-@proc(c_int, c_char_p)
+@CFUNCTYPE(c_int, c_char_p)
 def welcome(_host):
     return 1
 
@@ -68,7 +56,7 @@ def main():
     assert ICE.IceListenForConnections(byref(count), byref(doors), 200, error), error.value
     door = c_void_p(doors[count.value - 1])  # those of the network come first
     ICE.IceSetHostBasedAuthProc(door, welcome)
-    tell(ctypes.string_at(ICE.IceComposeNetworkIdList(1, byref(door))).decode())
+    print(ctypes.string_at(ICE.IceComposeNetworkIdList(1, byref(door))).decode(), flush=True)
     guest = c_void_p(ICE.IceAcceptConnection(door, byref(c_int())))
     number = ICE.IceConnectionNumber(guest)
     while True:

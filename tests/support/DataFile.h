@@ -1,8 +1,7 @@
-// What the tests of the data file share: a whole file, the values it holds, and its error boxes.
+// What the tests of the data file share: a whole file, and the values it holds.
 #pragma once
 
 #include "frame/modQuorvantaLite.h"
-#include "tests/support/FakeDesktop.h"
 
 #include <string>
 #include <tuple>
@@ -38,12 +37,5 @@ using StoredValues = std::tuple<quorvanta::RowTexts, quorvanta::RowTexts, double
 inline void forgetStored() {
     stored() = StoredValues{};
 }
-
-// A desktop whose boxes are error boxes.
-struct ErrorBoxes : FakeDesktop {
-    ErrorBoxes() { toolkit::install(this); }
-    ~ErrorBoxes() override { toolkit::install(nullptr); }
-    ErrorBoxes(const ErrorBoxes&) = delete;
-};
 
 } // namespace tests

@@ -15,14 +15,16 @@
 
 namespace tests {
 
+using Texts = std::vector<std::string>;
+
 struct FakeDesktop : toolkit::Desktop {
     std::vector<toolkit::MessageBox> boxes; // in the order in which they were shown
     std::deque<int> answers;                // to the boxes
     int last = 0;                           // for ever behind those; 0 for a box's default button
     std::function<void()> onBox;            // runs while a box is open, before it is answered
     std::function<void()> onDoEvents;
-    std::vector<std::string> announced;
-    std::vector<std::string> modal;                         // the forms that were shown so, by name
+    Texts announced;
+    Texts modal;                                            // the forms that were shown so, by name
     std::vector<std::vector<toolkit::PrintedText>> printed; // page by page
     // Asked before each operation of the printer, by its name, and may throw.
     std::function<void(const std::string& operation)> printerFault = [](const auto&) {};
@@ -73,14 +75,14 @@ struct FakeDesktop : toolkit::Desktop {
     }
 
     // The texts of the boxes shown since the last call.
-    std::vector<std::string> takeBoxes() {
-        std::vector<std::string> texts;
+    Texts takeBoxes() {
+        Texts texts;
         for (const auto& box : std::exchange(boxes, {}))
             texts.push_back(box.text);
         return texts;
     }
     // Likewise, but of error boxes the number and the label: "340 cLotto.SetAllButtons".
-    std::vector<std::string> takeReports() {
+    Texts takeReports() {
         static const std::string kPrompt = "An error has occured: ";
         auto texts = takeBoxes();
         for (std::string& text : texts)
@@ -90,6 +92,19 @@ struct FakeDesktop : toolkit::Desktop {
         return texts;
     }
 };
+
+// Drops all forms, those too that were being unloaded, as the end of a process does.
+inline void dropForms() {
+    struct Access : toolkit::Form {
+        using toolkit::Form::forget;
+    };
+    for (int i = 0; i < toolkit::Forms.Count(); ++i) {
+        toolkit::Forms(i).attach(nullptr);
+        (toolkit::Forms(i).*&Access::forget)();
+    }
+    toolkit::Screen = {};
+    toolkit::Forms = {};
+}
 
 // A click moves the focus before it is told.
 inline void userClick(toolkit::Control& control) {

@@ -1,11 +1,12 @@
 // The fake platform with the system's own files and locale, the files in a directory of the test's
-// own that goes with it.
+// own that goes with it, and on a desktop whose boxes are error boxes.
 #pragma once
 
+#include "storage/cQuorvantaLite.h"
+#include "tests/support/DataFile.h"
+#include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
-#include "toolkit/Form.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -75,6 +76,7 @@ struct RealFiles : SystemFiles {
 struct RealFilesPlatform {
     FakePlatform fake;
     RealFiles files;
+    FakeDesktop boxes;
     decltype(localeNamed("")) locale;
     platform::Platform all{fake.process, fake.clock,   fake.random, fake.settings, files,
                            locale,       fake.machine, fake.shell,  fake.printing, fake.help};
@@ -82,7 +84,44 @@ struct RealFilesPlatform {
     explicit RealFilesPlatform(const std::string& localeName = "en_US")
         : locale(localeNamed(localeName)) {
         platform::install(&all);
+        toolkit::install(&boxes);
         toolkit::App.Path = files.directory;
+        forgetStored();
+    }
+    ~RealFilesPlatform() { toolkit::install(nullptr); }
+    RealFilesPlatform(const RealFilesPlatform&) = delete;
+};
+
+namespace fs = std::filesystem;
+
+// The data file's routines, and single operations, on real files.
+struct FilesTest : RealFilesPlatform {
+    void saveRow(const std::string& row) {
+        quorvanta::gstrFavorites[1] = row;
+        quorvanta::cQuorvantaLite().WriteLottoFile();
+    }
+    std::string dataFile() { return files.content("Quorvanta.txt"); }
+
+    static int numberOf(const std::function<void()>& operation) {
+        try {
+            operation();
+            return 0;
+        } catch (const platform::RuntimeError& error) {
+            return error.number;
+        }
+    }
+
+    // The numbers of reading, entering, replacing, appending and removing.
+    Texts::value_type numbersOf(const std::string& name) {
+        const std::string path = files.path(name);
+        std::string numbers;
+        const std::function<void()> operations[] = {
+            [&] { files.openForInput(path); }, [&] { files.changeDirectory(path); },
+            [&] { files.replace(path, path + "b")->discardOld(); },
+            [&] { files.openForAppend(path); }, [&] { files.remove(path); }};
+        for (const auto& operation : operations)
+            numbers += std::to_string(numberOf(operation)) + " ";
+        return numbers;
     }
 };
 

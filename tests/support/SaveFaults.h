@@ -3,8 +3,6 @@
 #pragma once
 
 #include "frame/MainCode_ZW.h"
-#include "storage/cQuorvantaLite.h"
-#include "tests/support/DataFile.h"
 #include "tests/support/RealFiles.h"
 
 #include <gtest/gtest.h>
@@ -38,34 +36,26 @@ struct Start {
 };
 
 // A directory as the start has it, new values to be saved, and a save under a fault.
-struct Trial {
-    RealFilesPlatform system;
-    ErrorBoxes boxes;
+struct Trial : RealFilesPlatform {
     StoredValues old, fresh;
 
-    explicit Trial(const Start& start, const std::string& text = wholeFile()) {
+    explicit Trial(const Start& start) {
         fault = {.refused = start.refused};
         for (const auto& name : start.files)
-            system.files.create(name, name == kFile ? text : wholeFile());
+            files.create(name, wholeFile());
         old = fresh = read();
         std::get<0>(fresh)[1] = "7;8;9;";
         std::get<6>(fresh) = "1/2/2003";
     }
     // False if the work was over before the fault's position.
-    static bool underFault(void (*work)(), int position, int error) {
-        fault.position = position;
-        fault.error = error;
-        work();
-        fault.position = 0;
-        return fault.calls >= position;
-    }
     bool save(int position = 0, int error = 0, bool displayGone = false) {
         stored() = fresh;
-        const bool reached = underFault(
-            displayGone ? saveWithoutDisplay : [] { quorvanta::cQuorvantaLite().WriteLottoFile(); },
-            position, error);
+        fault.position = position;
+        fault.error = error;
+        displayGone ? saveWithoutDisplay() : quorvanta::cQuorvantaLite().WriteLottoFile();
+        fault.position = 0;
         toolkit::install(&boxes);
-        return reached;
+        return fault.calls >= position;
     }
     static void saveWithoutDisplay() {
         EXPECT_THROW(quorvanta::EndRunWithoutDisplay(), ProcessEnded);
@@ -104,7 +94,7 @@ inline void saveFailingAtEachCall(const Start& start, int answer, int error,
                 << it;
         EXPECT_TRUE(trial.isOldOrFresh());
         if (undeletable) {
-            EXPECT_TRUE(trial.system.files.content(kFile).starts_with(wholeFile()));
+            EXPECT_TRUE(trial.files.content(kFile).starts_with(wholeFile()));
         } else if ((reports.empty() && answer != 0) || answer == toolkit::Retry) {
             EXPECT_EQ(trial.read(), trial.fresh);
         }

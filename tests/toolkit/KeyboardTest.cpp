@@ -5,7 +5,6 @@ namespace {
 
 using namespace tests;
 using namespace toolkit;
-using Names = std::vector<std::string>;
 
 class KeyboardTest : public ToolkitTest {};
 
@@ -14,19 +13,19 @@ TEST_F(KeyboardTest, TabVisitsWhatTakesTheFocusAndOneOptionOfAGroup) {
     form.keys(4).Enabled = false;
     form.keys(5).Visible = false;
     form.picture.TabIndex = 999;
-    Names there{form.focused()}, back;
+    Texts there{form.focused()}, back;
     for (int i = 0; i < 13; ++i) {
         EXPECT_TRUE(userKey(form, key::Tab));
         there.push_back(form.focused());
     }
-    EXPECT_EQ(there, (Names{"opt1", "keys0", "keys1", "keys2", "keys3", "keys6", "keys7", "keys8",
+    EXPECT_EQ(there, (Texts{"opt1", "keys0", "keys1", "keys2", "keys3", "keys6", "keys7", "keys8",
                             "box", "grid", "close", "ok", "picture", "opt1"}));
     for (int i = 0; i < 13; ++i) {
         userKey(form, key::Tab, ShiftDown);
         back.push_back(form.focused());
     }
     std::ranges::reverse(back);
-    EXPECT_EQ(back, Names(there.begin(), there.end() - 1));
+    EXPECT_EQ(back, Texts(there.begin(), there.end() - 1));
     EXPECT_FALSE(userKey(form, key::Tab, CtrlDown)); // the desktop's, to go to another page
     form.pad.Enabled = false;
     form.keys(0).SetFocus();
@@ -133,6 +132,9 @@ TEST_F(KeyboardTest, AnOptionThatIsSelectedTakesTheFocusFromItsGroupAlone) {
     form.box.SetFocus();
     form.opt(2).Value = true;
     EXPECT_EQ(form.focused(), "box");
+    EXPECT_EQ(form.take(), "opt0 opt2");
+    form.opt(2).Value = false;
+    EXPECT_EQ(form.take(), "");
 }
 
 TEST_F(ToolkitTest, AClickOnARowBeginsAndEndsThere) {

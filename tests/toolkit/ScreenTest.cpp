@@ -42,6 +42,9 @@ TEST_F(ScreenTest, ThePageBelowComesForwardWhenAPageGoes) {
     Sheet& frame = sheet(Form::Kind::MDIFrame);
     for (int i = 0; i < 4; ++i)
         sheet();
+    sheets[3]->hWnd = 7;
+    EXPECT_EQ(Forms.withWindow(7), sheets[3].get());
+    EXPECT_EQ(Forms.frame(), &frame);
     sheets[2]->Show();            // from the back: 1 3 4 2
     sheets[4]->second.SetFocus(); // 1 3 2 4
     take();
@@ -131,7 +134,7 @@ TEST_F(ScreenTest, WhatAScreenReaderSays) {
     const auto keep = form.shared_from_this();
     form.Unload();
     form.label.announce("late");
-    EXPECT_EQ(desk.announced, std::vector<std::string>{"Drawn"});
+    EXPECT_EQ(desk.announced, Texts{"Drawn"});
 }
 
 TEST_F(ScreenTest, OnlyADataRowTakesADoubleClickAndBecomesCurrent) {

@@ -11,8 +11,8 @@
 #include "lists/frmFavorites.h"
 #include "numbers/frmMain.h"
 #include "tests/support/DataFile.h"
+#include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
-#include "tests/support/Forms.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/support/FilesTest.h"
+#include "tests/support/RealFiles.h"
 
 #include "platform/RuntimeError.h"
 #include "platform/windows/WindowsMachine.h"
@@ -6,13 +6,15 @@
 #include "platform/windows/WindowsSettings.h"
 #include "platform/windows/WindowsShell.h"
 
+#include <gtest/gtest.h>
+
 #include "platform/windows/System.h"
 
 namespace {
 
 using namespace platform;
 
-struct Windows : tests::FilesTest {
+struct Windows : testing::Test, tests::FilesTest {
     // Another's hold on a file.
     Handle held(const std::string& name, DWORD share) {
         return Handle(CreateFileW(wide(files.path(name)).c_str(), GENERIC_READ, share, nullptr,

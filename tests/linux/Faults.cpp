@@ -1,12 +1,7 @@
-// Starts and saves with a fault at each system call in turn. The linker puts the functions
+// Saves with a fault at each system call in turn. The linker puts the functions
 // __wrap_... below in the place of the system calls of the program's code.
-#include "common/ErrorReport.h"
-#include "frame/MainCode_ZW.h"
 #include "platform/linux/LinuxProcess.h"
-#include "tests/support/Forms.h"
 #include "tests/support/SaveFaults.h"
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
 #include <csignal>
@@ -82,8 +77,6 @@ ssize_t __wrap_write(int fd, const void* from, size_t size) {
 
 namespace {
 
-using namespace quorvanta;
-
 using tests::kFile, tests::kBackup, tests::kSpare;
 
 const Start kStarts[] = {{"first run"},
@@ -128,80 +121,19 @@ TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
         tests::saveFailingAtEachCall(start, toolkit::Button{}, EIO, "57");
 }
 
-// What can't be read is told, and the end of the run still leaves it in the backup. The log is lost
-// without a word.
-TEST(StartFaults, NeverHarmTheFileAndOnlyWhatWasToldIsMissingFromTheRun) {
-    // Its last line takes two reads.
-    const std::string text = tests::wholeFile() + "Date:" + std::string(70'000, 'x') + "\r\n";
-    for (const auto& [error, number] : {std::pair(EIO, "57"), {EACCES, "70"}, {ENOMEM, "7"}})
-        for (const int answer : {toolkit::Abort, toolkit::Retry, toolkit::Ignore}) {
-            std::vector<std::string> reports;
-            int position = 0;
-            for (bool reached = true; reached;) {
-                SCOPED_TRACE("call " + std::to_string(++position) + ", error " + number +
-                             ", answer " + std::to_string(answer));
-                Trial run({"later run", {kFile, kBackup}}, text);
-                run.boxes.last = answer;
-                tests::dropForms();
-                tests::forgetStored();
-                mblnLogStarted = false;
-                reached = run.underFault(Main, position, error);
-                const auto told = run.boxes.takeReports();
-                EXPECT_EQ(run.system.files.content(kFile), text);
-                EXPECT_TRUE(tests::stored() == run.old ||
-                            (!told.empty() && answer != toolkit::Retry));
-                if (told.empty())
-                    continue;
-                reports.insert(reports.end(), told.begin(), told.end());
-                cQuorvantaLite().WriteLottoFile();
-                EXPECT_EQ(run.system.files.content(kBackup), text);
-            }
-            const std::string failed = number + std::string(" ReadLottoFile");
-            EXPECT_EQ(reports, std::vector<std::string>(
-                                   {failed, "75 ReadLottoFile", failed, failed, failed}))
-                << "to open the file, to look at it, to read it twice and to meet its end";
-        }
-    tests::dropForms();
-}
-
-// A process that starts in the directory, and stays until it is killed.
-struct Instance {
-    int answer[2];
-    pid_t process;
-
-    explicit Instance(const tests::RealFiles& in) {
-        EXPECT_EQ(::pipe(answer), 0);
-        process = ::fork();
-        if (process != 0)
-            return;
-        const char refused = platform::LinuxProcess().prevInstance(in.directory) ? 1 : 0;
-        ::_exit(__real_write(answer[1], &refused, 1) == 1 ? ::pause() : 1);
-    }
-    ~Instance() {
-        ::kill(process, SIGKILL);
-        ::waitpid(process, nullptr, 0);
-        __real_close(answer[0]);
-        __real_close(answer[1]);
-    }
-    bool isRefused() const {
-        char refused = 2;
-        EXPECT_EQ(__real_read(answer[0], &refused, 1), 1);
-        return refused == 1;
-    }
-};
-
-TEST(Instances, AreOneForADirectoryAlsoWhereItCannotBeLockedAndLeaveNothingWhenKilled) {
-    for (const Names& refused : {Names{}, {"flock"}, {"open"}}) {
-        const tests::RealFiles here, there;
-        fault = {.refused = refused};
-        for (int run = 0; run < 2; ++run) {
-            EXPECT_FALSE(Instance(here).isRefused());
-            const Instance first(here);
-            EXPECT_FALSE(first.isRefused());
-            EXPECT_TRUE(Instance(here).isRefused());
-            EXPECT_FALSE(Instance(there).isRefused());
-        }
-        EXPECT_TRUE(std::filesystem::is_empty(here.directory));
+// Each start opens the directory anew, as one of another process does, and holds it from then on.
+TEST(Instances, AreOneForADirectoryAlsoWhereItCannotBeLocked) {
+    const Names refused[] = {{}, {"flock"}, {"open"}};
+    const tests::RealFiles here[3], there[3];
+    for (int i = 0; i < 3; ++i) {
+        fault = {.refused = refused[i]};
+        const auto isRefused = [&](const tests::RealFiles& files) {
+            return platform::LinuxProcess().prevInstance(files.directory);
+        };
+        EXPECT_FALSE(isRefused(here[i]));
+        EXPECT_TRUE(isRefused(here[i]));
+        EXPECT_FALSE(isRefused(there[i]));
+        EXPECT_TRUE(std::filesystem::is_empty(here[i].directory));
         fault = {};
     }
 }
