@@ -227,12 +227,15 @@ void MSFlexGridWindow::paintAt(HDC dc, POINT place) {
 
 void MSFlexGridWindow::press(UINT message, LPARAM place) {
     const int row = rowAt(place);
-    if (message == WM_LBUTTONDOWN)
+    if (message == WM_LBUTTONDOWN) {
+        SetCapture(handle()); // the release is told wherever it is
         grid_.press(row);
-    else if (message == WM_LBUTTONUP)
+    } else if (message == WM_LBUTTONUP) {
+        ReleaseCapture();
         grid_.release(row);
-    else // the second press of a double click is told as this
+    } else { // the second press of a double click is told as this
         grid_.doubleClickRow(row);
+    }
 }
 
 LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
