@@ -8,8 +8,11 @@
 
 namespace desktop {
 
-// The viewer of help files is a window too.
-class SystemDesktop : public toolkit::Desktop, public platform::Help {};
+class SystemDesktop : public toolkit::Desktop {
+public:
+    // The viewer of help files where it is one of the desktop's windows; nullptr where it is none.
+    virtual platform::Help* helpViewer() { return nullptr; }
+};
 
 // Opens nothing yet: the first form or message box does.
 std::unique_ptr<SystemDesktop> makeDesktop();

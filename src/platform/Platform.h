@@ -31,9 +31,9 @@ struct Platform {
 // The installed platform. Calling it before install() is a mistake of the caller.
 const Platform& current();
 
-// The platform of the system that the program is built for, with the desktop's viewer of help
-// files. It lasts as long as the process. The system's folder defines it.
-Platform makePlatform(Help& help);
+// The platform of the system that the program is built for. It lasts as long as the process.
+// `viewer` shows help files where that is a desktop's. The system's folder defines it.
+Platform makePlatform(Help* viewer);
 
 // Makes `it` the current platform; nullptr takes it away again.
 void install(const Platform* it);

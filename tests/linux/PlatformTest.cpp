@@ -73,7 +73,7 @@ TEST(Settings, GoToTheUsersOwnHomeAlsoWhereNobodyTellsIt) {
     const std::string told = ::getenv("HOME") ? ::getenv("HOME") : "";
     ::unsetenv("HOME");
     tests::FakeHelp help;
-    platform::makePlatform(help);
+    platform::makePlatform(&help);
     EXPECT_STREQ(::getenv("HOME"), ::getpwuid(::getuid())->pw_dir);
     ::setenv("HOME", told.c_str(), 1);
 }

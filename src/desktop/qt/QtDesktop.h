@@ -20,7 +20,7 @@ namespace desktop_qt {
 
 class FrameWindow;
 
-class QtDesktop : public QObject, public desktop::SystemDesktop {
+class QtDesktop : public QObject, public desktop::SystemDesktop, public platform::Help {
 public:
     // Nothing is opened until the first form or message box needs it, so a start that is refused
     // costs little.
@@ -41,6 +41,7 @@ public:
     std::function<void()> waker(std::function<void()> event) override;
     void endLoop() override;
 
+    platform::Help* helpViewer() override { return this; }
     bool WinHelpA(std::uintptr_t window, const char* file, unsigned command,
                   std::uintptr_t data) override;
 

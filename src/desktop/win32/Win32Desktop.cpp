@@ -155,11 +155,6 @@ void Win32Desktop::endLoop() {
     })();
 }
 
-bool Win32Desktop::WinHelpA(std::uintptr_t /*window*/, const char* /*file*/, unsigned /*command*/,
-                            std::uintptr_t /*data*/) {
-    return false;
-}
-
 } // namespace desktop_win32
 
 std::unique_ptr<desktop::SystemDesktop> desktop::makeDesktop() {

@@ -21,9 +21,6 @@ public:
     int run() override;
     std::function<void()> waker(std::function<void()> event) override;
     void endLoop() override;
-
-    bool WinHelpA(std::uintptr_t window, const char* file, unsigned command,
-                  std::uintptr_t data) override;
 };
 
 } // namespace desktop_win32

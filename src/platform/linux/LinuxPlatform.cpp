@@ -31,13 +31,13 @@ struct Linux {
 
 } // namespace
 
-Platform makePlatform(Help& help) {
+Platform makePlatform(Help* viewer) {
     // Some starters don't tell the user's home, and "/" would be taken for it.
     if (const passwd* const user = std::getenv("HOME") ? nullptr : ::getpwuid(::getuid()))
         ::setenv("HOME", user->pw_dir, 0);
     static auto* const it = new Linux; // never given up: the process's last moments use it too
     return {it->process, it->clock,   it->random, it->settings, it->files,
-            it->locale,  it->machine, it->shell,  it->printing, help};
+            it->locale,  it->machine, it->shell,  it->printing, *viewer};
 }
 
 } // namespace platform

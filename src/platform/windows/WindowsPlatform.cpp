@@ -3,6 +3,7 @@
 #include "platform/StandardRandom.h"
 #include "platform/windows/WindowsClock.h"
 #include "platform/windows/WindowsFiles.h"
+#include "platform/windows/WindowsHelp.h"
 #include "platform/windows/WindowsLocale.h"
 #include "platform/windows/WindowsMachine.h"
 #include "platform/windows/WindowsProcess.h"
@@ -28,14 +29,15 @@ struct Windows {
     WindowsMachine machine;
     WindowsShell shell;
     NoPrinting printing;
+    WindowsHelp help;
 };
 
 } // namespace
 
-Platform makePlatform(Help& help) {
+Platform makePlatform(Help* /*viewer*/) {
     static auto* const it = new Windows; // never given up: the process's last moments use it too
     return {it->process, it->clock,   it->random, it->settings, it->files,
-            it->locale,  it->machine, it->shell,  it->printing, help};
+            it->locale,  it->machine, it->shell,  it->printing, it->help};
 }
 
 } // namespace platform

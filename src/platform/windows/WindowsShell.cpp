@@ -2,29 +2,13 @@
 
 #include "platform/Addresses.h"
 #include "platform/RuntimeError.h"
-#include "platform/windows/System.h"
+#include "platform/windows/Com.h"
 
-#include <objbase.h>
 #include <shellapi.h>
 
 namespace platform {
 
 namespace {
-
-// The shell hands over to components that need COM on the thread.
-class Com {
-public:
-    Com() : begun_(SUCCEEDED(CoInitializeEx(nullptr, kMode))) {}
-    ~Com() {
-        if (begun_)
-            CoUninitialize();
-    }
-    Com(const Com&) = delete;
-
-private:
-    static constexpr DWORD kMode = COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE;
-    bool begun_;
-};
 
 // The text as UTF-16, or a null pointer for none.
 class Argument {
