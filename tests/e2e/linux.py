@@ -88,6 +88,10 @@ def start(folder, environment):
     return subprocess.Popen([folder + "quorvanta"], env=environment)
 
 
+def opener(folder, _there):
+    return {"PATH": folder}  # none but this one
+
+
 def end_session(process):
     process.send_signal(signal.SIGTERM)
 

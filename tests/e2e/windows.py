@@ -11,7 +11,7 @@ CLASSES = {"static": "label", "edit": "text", "toolbarwindow32": "tool bar",
 BUTTONS = {4: "radio button", 7: "panel", 9: "radio button"}
 ROLES = {24: "table", 25: "table column header", 26: "table row header", 29: "table cell",
          40: "image", 41: "label", 43: "push button"}
-ROW_HEADER = 26
+ROW_HEADER, ETCHED = 26, 16
 SPOKEN_STATES = {"SELECTED": 2, "FOCUSED": 4}
 PRINTERS = "HKLM\\System\\CurrentControlSet\\Control\\Print\\Printers\\"
 NO_WINDOWS = "tooltips_class32", "#32768"  # tool tips and opened menus
@@ -66,13 +66,15 @@ class Node:
         kind = facts["class"].lower()
         if kind == "button":
             return BUTTONS.get(facts["style"] & 15, "push button")
+        if kind == "static" and not self.name:  # a rule, or what readers pass by
+            return "separator" if facts["style"] & 31 == ETCHED else "filler"
         return CLASSES.get(kind, "frame" if "menus" in facts else "dialog")
 
     @property
     def name(self):
         facts = self.facts
-        name = facts.get("spoken", facts).get("name")
-        return plain(facts.get("text", "") if name is None else name)
+        spoken = facts.get("spoken", facts)
+        return plain(spoken.get("name", spoken.get("text", "")))
 
     text = property(lambda self: self.facts["text"])
     box = property(lambda self: self.facts["box"])
@@ -115,6 +117,16 @@ def windows(process):
     file = "Z:" + process.args[1].replace("/", "\\")
     return [node for node in map(Node, ask("windows " + file))
             if node.facts["class"] not in NO_WINDOWS]
+
+
+def opener(folder, there):
+    """Wine hands over to the Linux program of that name what Windows has a program for."""
+    for key, program in ((r"HKCR\.html", "htmlfile"),
+                         (r"HKCR\https\shell\open\command", 'winebrowser.exe "%1"')):
+        subprocess.run([WINE, "reg", *(["add", key, "/ve", "/d", program] if there
+                                       else ["delete", key]), "/f"],
+                       capture_output=True, check=there)
+    return {"PATH": folder + ":" + os.environ["PATH"]}
 
 
 def end_session(process):

@@ -47,6 +47,12 @@ protected:
             if (wide(toolkit::typeText(box_, narrow(typed))) != typed || gone())
                 return 0;
         }
+        // The menu of the right button reads the selection, which may come with the focus.
+        if (message == WM_RBUTTONDOWN && GetFocus() != handle()) {
+            SetFocus(handle());
+            if (gone())
+                return 0;
+        }
         const bool enters = message == WM_LBUTTONDOWN && GetFocus() != handle();
         const LRESULT result = ControlWindow::received(message, wParam, lParam);
         if (gone())
