@@ -87,24 +87,16 @@ const Start kStarts[] = {{"first run"},
                          {"no links either", {kFile, kBackup}, {"renameat2", "link"}}};
 
 TEST(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
-    for (int i = 0; i < 2 * static_cast<int>(std::size(kStarts)); ++i) {
-        const Start& start = kStarts[i / 2];
-        int position = 0;
-        for (int status = 1; status != 0;) {
-            SCOPED_TRACE(start.name + ", call " + std::to_string(++position));
-            Trial trial(start);
-            const pid_t child = ::fork();
-            if (child == 0)
-                ::_exit(trial.save(position, 0, i % 2 == 1) ? 1 : 0);
-            ASSERT_EQ(::waitpid(child, &status, 0), child);
-            EXPECT_TRUE(trial.isOldOrFresh());
-            trial.save();
-            EXPECT_FALSE(fault.renamed) << "a power cut would bring the old names back";
-            EXPECT_EQ(trial.read(), trial.fresh);
-            EXPECT_TRUE(trial.boxes.boxes.empty());
-        }
-        EXPECT_GT(position, 10);
-    }
+    for (const Start& start : kStarts)
+        for (const bool displayGone : {false, true})
+            tests::saveKilledAtEachCall(start, [=](Trial& trial, int position) {
+                const pid_t child = ::fork();
+                if (child == 0)
+                    ::_exit(trial.save(position, 0, displayGone) ? 1 : 0);
+                int status = 0;
+                EXPECT_EQ(::waitpid(child, &status, 0), child);
+                return status;
+            });
 }
 
 TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {

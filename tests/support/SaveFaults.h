@@ -20,7 +20,6 @@ struct Fault {
     int calls = 0;
     bool unforced = false; // what was written last is not forced to the disk
     bool renamed = false;  // nor are the names changed since
-    bool dead = false;     // the process was killed, and nothing that it does has an effect
 };
 inline Fault fault;
 
@@ -43,6 +42,9 @@ struct Trial : RealFilesPlatform {
         fault = {.refused = start.refused};
         for (const auto& name : start.files)
             files.create(name, wholeFile());
+        chooseValues();
+    }
+    void chooseValues() {
         old = fresh = read();
         std::get<0>(fresh)[1] = "7;8;9;";
         std::get<6>(fresh) = "1/2/2003";
@@ -70,6 +72,24 @@ struct Trial : RealFilesPlatform {
         return values == old || values == fresh;
     }
 };
+
+// Has a child save, and be killed at each call in turn, until one comes to its end. The child gets
+// the trial and the position, and gives 0 at its end.
+template <class Child>
+void saveKilledAtEachCall(const Start& start, Child child) {
+    int position = 0;
+    for (int status = 1; status != 0;) {
+        SCOPED_TRACE(start.name + ", call " + std::to_string(++position));
+        Trial trial(start);
+        status = child(trial, position);
+        EXPECT_TRUE(status == 0 ? trial.read() == trial.fresh : trial.isOldOrFresh());
+        trial.save();
+        EXPECT_FALSE(fault.renamed) << "a power cut would bring the old names back";
+        EXPECT_EQ(trial.read(), trial.fresh);
+        EXPECT_TRUE(trial.boxes.boxes.empty());
+    }
+    EXPECT_GT(position, 10);
+}
 
 // Saves with a fault at each call in turn, until one has no call to meet. An answer of 0: the
 // display has gone, and nobody can be asked.

@@ -8,22 +8,23 @@ namespace {
 
 using tests::fault, tests::Start, tests::Trial;
 
+constexpr DWORD kKilled = 77;
+
 bool meetsFault() {
-    if (fault.dead)
-        return true;
     if (fault.position == 0 || ++fault.calls != fault.position)
         return false;
-    fault.dead = fault.error == 0;
+    if (fault.error == 0)
+        TerminateProcess(GetCurrentProcess(), kKilled);
     return true;
 }
 
 template <class Result, class Call>
 Result faulty(std::string_view name, Result failed, Call call) {
-    EXPECT_FALSE(!fault.dead && fault.unforced && name == "ReplaceFileW");
+    EXPECT_FALSE(fault.unforced && name == "ReplaceFileW");
     fault.unforced = name == "WriteFile" || (fault.unforced && name != "FlushFileBuffers");
     if (!meetsFault())
         return call();
-    SetLastError(fault.error == 0 ? ERROR_GEN_FAILURE : static_cast<DWORD>(fault.error));
+    SetLastError(static_cast<DWORD>(fault.error));
     return failed;
 }
 
@@ -61,7 +62,7 @@ decltype(&CloseHandle) __wrap___imp_CloseHandle = faultyCloseHandle;
 extern decltype(&WriteFile) __real___imp_WriteFile;
 static BOOL WINAPI faultyWriteFile(HANDLE file, const void* from, DWORD size, DWORD* count,
                                    OVERLAPPED* at) {
-    if (!fault.dead && fault.position != 0 && fault.calls + 1 == fault.position)
+    if (fault.position != 0 && fault.calls + 1 == fault.position)
         __real___imp_WriteFile(file, from, size / 2, count, at);
     return faulty("WriteFile", FALSE,
                   [=] { return __real___imp_WriteFile(file, from, size, count, at); });
@@ -71,8 +72,7 @@ decltype(&WriteFile) __wrap___imp_WriteFile = faultyWriteFile;
 extern decltype(&ReplaceFileW) __real___imp_ReplaceFileW;
 static BOOL WINAPI faultyReplaceFileW(const wchar_t* path, const wchar_t* by, const wchar_t* backup,
                                       DWORD how, void* none, void* reserved) {
-    if (fault.refused.contains("half") && !fault.dead && fault.position != 0 &&
-        fault.calls + 1 == fault.position)
+    if (fault.refused.contains("half") && fault.position != 0 && fault.calls + 1 == fault.position)
         __real___imp_MoveFileExW(path, backup, MOVEFILE_REPLACE_EXISTING);
     return faulty("ReplaceFileW", FALSE,
                   [=] { return __real___imp_ReplaceFileW(path, by, backup, how, none, reserved); });
@@ -93,23 +93,30 @@ const Start kStarts[] = {{"first run"},
                          // ReplaceFileW has done the first of its two steps when it meets the fault
                          {"replaced by halves", {kFile, kBackup}, {"half"}}};
 
-TEST(SaveFaults, EndedAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
-    for (const Start& start : kStarts) {
-        int position = 0;
-        for (bool reached = true; reached;) {
-            SCOPED_TRACE(start.name + ", call " + std::to_string(++position));
-            Trial trial(start);
-            trial.boxes.last = toolkit::Abort;
-            reached = trial.save(position);
-            fault.dead = false;
-            trial.boxes.takeReports(); // of what failed behind the end
-            EXPECT_TRUE(trial.isOldOrFresh());
-            trial.save();
-            EXPECT_EQ(trial.read(), trial.fresh);
-            EXPECT_TRUE(trial.boxes.boxes.empty());
-        }
-        EXPECT_GT(position, 10);
-    }
+// This program as a child, in the trial's directory; its exit status.
+int childStatus(const Trial& trial, int position) {
+    std::wstring file(MAX_PATH, L'\0');
+    GetModuleFileNameW(nullptr, file.data(), MAX_PATH);
+    std::wstring line = L"child " + std::to_wstring(position);
+    for (const auto& name : fault.refused)
+        line += L" " + platform::wide(name);
+    STARTUPINFOW how{};
+    how.cb = sizeof how;
+    PROCESS_INFORMATION child{};
+    EXPECT_TRUE(CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                               platform::wide(trial.files.directory).c_str(), &how, &child));
+    WaitForSingleObject(child.hProcess, INFINITE);
+    DWORD status = 0;
+    GetExitCodeProcess(child.hProcess, &status);
+    CloseHandle(child.hThread);
+    CloseHandle(child.hProcess);
+    EXPECT_TRUE(status == 0 || status == kKilled) << status;
+    return static_cast<int>(status);
+}
+
+TEST(SaveFaults, KilledAnywhereLeavesAllOldOrAllNewAndTheNextRunSaves) {
+    for (const Start& start : kStarts)
+        tests::saveKilledAtEachCall(start, childStatus);
 }
 
 TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
@@ -119,8 +126,24 @@ TEST(SaveFaults, FailingCallLeavesAllOldOrAllNewWhateverTheAnswer) {
                                                 {ERROR_CRC, "57"},
                                                 {ERROR_ACCESS_DENIED, "70"},
                                                 {ERROR_FILE_NOT_FOUND, "76"},
+                                                {ERROR_UNABLE_TO_MOVE_REPLACEMENT, "70"},
                                                 {ERROR_UNABLE_TO_MOVE_REPLACEMENT_2, "70"}})
                 tests::saveFailingAtEachCall(start, answer, error, number);
 }
 
 } // namespace
+
+int main(int count, char** arguments) {
+    testing::InitGoogleTest(&count, arguments);
+    if (count == 1)
+        return RUN_ALL_TESTS();
+    Trial trial({});
+    std::filesystem::remove(trial.files.own(""));
+    const auto here = std::filesystem::current_path().u8string();
+    trial.files.directory = toolkit::App.Path = std::string(here.begin(), here.end());
+    trial.chooseValues();
+    fault.refused.insert(arguments + 2, arguments + count);
+    const bool outlived = trial.save(std::stoi(arguments[1]));
+    // Nothing is cleared up: the directory is the parent's.
+    return TerminateProcess(GetCurrentProcess(), outlived ? 1 : 0);
+}
