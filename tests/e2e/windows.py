@@ -109,6 +109,16 @@ class Node:
         return Node(self.window, row * self.width() + column)
 
 
+class Announced:
+    """What screen readers are given to say, from here on."""
+
+    def __init__(self):
+        self.before = len(ask("heard 0"))
+
+    def so_far(self):
+        return ask(f"heard {self.before}")
+
+
 def start(folder, environment):
     return subprocess.Popen([WINE, folder + "quorvanta.exe"], env=environment)
 
@@ -127,6 +137,13 @@ def opener(folder, there):
                                        else ["delete", key]), "/f"],
                        capture_output=True, check=there)
     return {"PATH": folder + ":" + os.environ["PATH"]}
+
+
+def at_scale(scale):
+    """Has the programs that start from here on find such a screen."""
+    subprocess.run([WINE, "reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t",
+                    "REG_DWORD", "/d", str(int(96 * scale)), "/f"], check=True,
+                   stdout=subprocess.DEVNULL)
 
 
 def end_session(process):

@@ -2,12 +2,16 @@
 //   windows PROGRAM     the numbers of the visible windows of a program file
 //   describe NUMBER     one window; null if it has gone
 //   end NUMBER          tells the windows of the window's thread that the session ends
+//   heard SINCE         the texts that readers were given to say, but for so many first ones
 #include "Reader.h"
 
 #include <oleauto.h>
 
 #include <iostream>
+#include <mutex>
 #include <string>
+#include <thread>
+#include <vector>
 
 namespace {
 
@@ -63,9 +67,39 @@ BOOL CALLBACK endSession(HWND window, LPARAM /*nothing*/) {
     return TRUE;
 }
 
+std::vector<std::string> heard; // ASCII, as they stand in JSON
+std::mutex hearing;
+
+void CALLBACK hear(HWINEVENTHOOK /*hook*/, DWORD /*event*/, HWND window, LONG /*object*/,
+                   LONG /*child*/, DWORD /*thread*/, DWORD /*time*/) {
+    char text[256] = "";
+    DWORD_PTR length = 0;
+    SendMessageTimeoutA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text),
+                        SMTO_NORMAL, kPatience, &length);
+    const std::lock_guard lock(hearing);
+    heard.push_back('"' + std::string(text, length) + '"');
+}
+
+void hearAll() {
+    SetWinEventHook(EVENT_OBJECT_LIVEREGIONCHANGED, EVENT_OBJECT_LIVEREGIONCHANGED, nullptr, hear,
+                    0, 0, WINEVENT_OUTOFCONTEXT);
+    MSG message{};
+    while (GetMessageW(&message, nullptr, 0, 0) > 0)
+        DispatchMessageW(&message);
+}
+
+std::string heardSince(std::size_t first) {
+    const std::lock_guard lock(hearing);
+    std::string all;
+    for (; first < heard.size(); ++first)
+        all += (all.empty() ? "" : ",") + heard[first];
+    return "[" + all + "]";
+}
+
 } // namespace
 
 int main() {
+    std::thread(hearAll).detach();
     // Wine keeps the description of the interface with which accessible objects are asked, but
     // doesn't enter it.
     ITypeLib* library = nullptr;
@@ -85,6 +119,10 @@ int main() {
         const std::string what = line.substr(0, blank), of = line.substr(blank + 1);
         if (what == "windows") {
             std::cout << windows(of) << std::endl;
+            continue;
+        }
+        if (what == "heard") {
+            std::cout << heardSince(std::stoul(of)) << std::endl;
             continue;
         }
         HWND const window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::stoll(of)));

@@ -32,8 +32,7 @@ void FormWindow::changed(Prop which) {
         return;
     case Prop::Left:
     case Prop::Top:
-        SetWindowPos(handle(), nullptr, pixels(form_.Left, dpi()), pixels(form_.Top, dpi()), 0, 0,
-                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        placeWindow();
         return;
     default:
         return;
@@ -42,7 +41,7 @@ void FormWindow::changed(Prop which) {
 
 void FormWindow::lookChanged() {
     fit();
-    changed(Prop::Left);
+    placeWindow();
 }
 
 void FormWindow::show() {
@@ -72,15 +71,22 @@ void FormWindow::fit() {
     form_.setBorders(twips(outer.right - width, dpi()), twips(outer.bottom - height, dpi()));
 }
 
-void FormWindow::moved() {
-    if (IsIconic(handle()))
+void FormWindow::placeWindow() {
+    if (IsIconic(handle()) || IsZoomed(handle()))
         return;
-    RECT place{};
-    GetWindowRect(handle(), &place);
-    if (HWND const parent = GetAncestor(handle(), GA_PARENT); parent != GetDesktopWindow())
-        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-    form_.Left.assume(twips(place.left, dpi()));
-    form_.Top.assume(twips(place.top, dpi()));
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(MonitorFromWindow(handle(), MONITOR_DEFAULTTOPRIMARY), &screen);
+    const RECT to =
+        rectangle(place_.within(place(screen.rcWork), form_, toolkit::kTwipsPerInch / dpi()));
+    SetWindowPos(handle(), nullptr, to.left, to.top, to.right - to.left, to.bottom - to.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::moved() {
+    RECT now{};
+    if (!IsIconic(handle()) && GetWindowRect(handle(), &now))
+        place_.moved(place(now), form_, toolkit::kTwipsPerInch / dpi());
 }
 
 void FormWindow::showNewLook() {
@@ -105,6 +111,13 @@ LRESULT FormWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_MOVE:
         moved();
+        break;
+    case WM_SETTINGCHANGE:
+        if (wParam == SPI_SETWORKAREA)
+            placeWindow();
+        break;
+    case WM_DISPLAYCHANGE:
+        placeWindow();
         break;
     case WM_ERASEBKGND: {
         RECT all{};

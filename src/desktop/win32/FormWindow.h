@@ -2,6 +2,7 @@
 #pragma once
 
 #include "desktop/win32/ControlWindow.h"
+#include "toolkit/Placement.h"
 
 #include <vector>
 
@@ -18,6 +19,8 @@ public:
     virtual void show();
     // Puts the window in front of the others, with the focus where the form has it.
     virtual void bringForward() { show(); }
+    // Opens the menu of a page's own; does nothing for other windows.
+    virtual void openMenu() {}
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -25,13 +28,17 @@ protected:
     void fit();
     // Gives the focus to the control of the form that shall have it.
     void takeFocus();
-    // The window was moved: its form takes the place over.
+    // Shows the window where its form wants it. One of its own stands within reach on its screen.
+    virtual void placeWindow();
+    // The window was moved or resized: its form takes that over.
     virtual void moved();
 
     toolkit::Form& form_;
 
 private:
     void showNewLook();
+
+    toolkit::ShownPlace place_;
 };
 
 class FrameWindow final : public FormWindow {
@@ -50,7 +57,6 @@ public:
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
     LRESULT byDefault(UINT message, WPARAM wParam, LPARAM lParam) override;
-    void moved() override;
 
 private:
     void layOut();

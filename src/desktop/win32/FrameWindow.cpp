@@ -60,16 +60,6 @@ void FrameWindow::layOut() {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void FrameWindow::moved() {
-    if (IsIconic(handle()))
-        return;
-    FormWindow::moved();
-    RECT place{};
-    GetWindowRect(handle(), &place);
-    form_.Width.assume(twips(place.right - place.left, dpi()));
-    form_.Height.assume(twips(place.bottom - place.top, dpi()));
-}
-
 LRESULT FrameWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_COMMAND:

@@ -43,6 +43,16 @@ double twips(int pixels, int dpi) {
     return toolkit::twips(pixels, perPixel(dpi));
 }
 
+toolkit::Place place(const RECT& area) {
+    return {1.0 * area.left, 1.0 * area.top, 1.0 * area.right - area.left,
+            1.0 * area.bottom - area.top};
+}
+
+RECT rectangle(const toolkit::Place& area) {
+    return {std::lround(area.Left), std::lround(area.Top), std::lround(area.Left + area.Width),
+            std::lround(area.Top + area.Height)};
+}
+
 RECT rectangle(const toolkit::Control& control, int dpi) {
     return {pixels(control.Left, dpi), pixels(control.Top, dpi),
             pixels(control.Left + control.Width, dpi), pixels(control.Top + control.Height, dpi)};

@@ -11,6 +11,8 @@ namespace desktop_win32 {
 // The screen's pixels of a resolution, in dots to the inch; 96 shows a logical pixel as one.
 int pixels(double twips, int dpi);
 double twips(int pixels, int dpi);
+toolkit::Place place(const RECT& area);
+RECT rectangle(const toolkit::Place& area);
 // From edge to edge, so that neighbours meet at every resolution.
 RECT rectangle(const toolkit::Control& control, int dpi);
 

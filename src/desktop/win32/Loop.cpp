@@ -34,6 +34,12 @@ bool movesAmongPages(const std::shared_ptr<FormWindow>& around, MSG& message) {
     return root && TranslateMDISysAccel(root->client(), &message);
 }
 
+// Alt and - open the menu of the page in front. The system would ask the frame for the letter, and
+// Wine's frame doesn't pass it on.
+bool opensPageMenu(const std::vector<MSG>& typed) {
+    return !typed.empty() && typed.front().message == WM_SYSCHAR && typed.front().wParam == '-';
+}
+
 // Every key goes to the form first, then to the frame, then to the window that has the focus.
 void handle(MSG& message) {
     if (!isKey(message)) {
@@ -43,7 +49,11 @@ void handle(MSG& message) {
     }
     const std::vector<MSG> typed = typedBy(message);
     const auto around = formWindowOf(message.hwnd);
-    if (around && toolkit::pressKey(around->form(), keyStroke(message, typed))) {
+    const bool used = around && toolkit::pressKey(around->form(), keyStroke(message, typed));
+    const bool toMenu = around && !used && opensPageMenu(typed);
+    if (toMenu)
+        around->openMenu();
+    if (used || toMenu) {
         // The system takes Alt for the menu bar's when it comes up with no key seen since.
         if (message.message == WM_SYSKEYDOWN && message.wParam != VK_MENU)
             DefWindowProcW(GetActiveWindow(), WM_SYSKEYDOWN, VK_SHIFT, message.lParam);

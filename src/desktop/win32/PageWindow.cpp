@@ -18,6 +18,8 @@ public:
         const DWORD style = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | WS_CAPTION | WS_SYSMENU |
                             (form.MinButton ? WS_MINIMIZEBOX : 0);
         create(it, {nullptr, style, WS_EX_MDICHILD, frame->client(), {}});
+        for (const UINT entry : {SC_SIZE, SC_MAXIMIZE}) // a page has the size of its form
+            DeleteMenu(GetSystemMenu(it->handle(), FALSE), entry, MF_BYCOMMAND);
         it->fit();
         makeControls(form, it->handle());
         return it;
@@ -26,6 +28,8 @@ public:
     void show() override {
         if (IsIconic(handle()))
             SendMessageW(frame_->client(), WM_MDIRESTORE, reinterpret_cast<WPARAM>(handle()), 0);
+        else if (IsWindowVisible(handle()))
+            bringIntoView();
         else
             ShowWindow(handle(), SW_SHOWNA);
     }
@@ -34,6 +38,21 @@ public:
         SendMessageW(frame_->client(), WM_MDIACTIVATE, reinterpret_cast<WPARAM>(handle()), 0);
         if (!gone())
             takeFocus();
+    }
+
+    void openMenu() override {
+        HMENU const menu = GetSystemMenu(handle(), FALSE);
+        const auto enable = [&](UINT entry, bool enabled) {
+            EnableMenuItem(menu, entry, enabled ? MF_ENABLED : MF_GRAYED);
+        };
+        enable(SC_RESTORE, IsIconic(handle()));
+        enable(SC_MINIMIZE, form_.MinButton && !IsIconic(handle()));
+        POINT below{0, 0}; // its title
+        ClientToScreen(handle(), &below);
+        const auto chosen = static_cast<WPARAM>(
+            TrackPopupMenu(menu, TPM_RETURNCMD, below.x, below.y, 0, handle(), nullptr));
+        if (chosen != 0 && !gone())
+            PostMessageW(handle(), WM_SYSCOMMAND, chosen, 0);
     }
 
 protected:
@@ -46,6 +65,8 @@ protected:
                 frame_->showMenus(menus_);
                 toolkit::Screen.activated(form_);
             }
+        } else if (message == WM_SIZE) {
+            form_.minimized = wParam == SIZE_MINIMIZED;
         }
         return FormWindow::received(message, wParam, lParam);
     }
@@ -59,7 +80,35 @@ protected:
         destroyMenus(menus_);
     }
 
+    void placeWindow() override { moveTo(pixels(form_.Left, dpi()), pixels(form_.Top, dpi())); }
+    void moved() override {
+        if (IsIconic(handle()))
+            return;
+        const RECT now = placeInFrame();
+        form_.Left.assume(twips(now.left, dpi()));
+        form_.Top.assume(twips(now.top, dpi()));
+    }
+
 private:
+    RECT placeInFrame() const {
+        RECT place{};
+        GetWindowRect(handle(), &place);
+        MapWindowPoints(nullptr, frame_->client(), reinterpret_cast<POINT*>(&place), 2);
+        return place;
+    }
+    void moveTo(int left, int top) {
+        SetWindowPos(handle(), nullptr, left, top, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    void bringIntoView() {
+        RECT view{};
+        GetClientRect(frame_->client(), &view);
+        const RECT now = placeInFrame();
+        const RECT to = rectangle(toolkit::intoView(
+            place(now), place(view), now.bottom - now.top - pixels(form_.clientHeight, dpi())));
+        moveTo(to.left, to.top);
+    }
+
     std::shared_ptr<FrameWindow> frame_;
     HMENU menus_ = nullptr;
 };

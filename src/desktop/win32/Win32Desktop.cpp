@@ -2,6 +2,7 @@
 
 #include "desktop/win32/Loop.h"
 #include "desktop/win32/MessageBox.h"
+#include "desktop/win32/Notice.h"
 #include "desktop/win32/Printer.h"
 
 #include <map>
@@ -115,6 +116,11 @@ void Win32Desktop::focus(Control& control) {
     SetFocus(window->handle());
     if (!window->gone())
         toolkit::Screen.focusMoved(control); // also where another program is in front
+}
+
+void Win32Desktop::announce(Control& control, const std::string& said) {
+    if (const auto window = windowOf(control))
+        desktop_win32::announce(GetAncestor(window->handle(), GA_ROOT), said);
 }
 
 int Win32Desktop::messageBox(const toolkit::MessageBox& box) {

@@ -13,6 +13,7 @@ public:
     void show(toolkit::Form& form, bool modal) override;
     void bringForward(toolkit::Form& form) override;
     void focus(toolkit::Control& control) override;
+    void announce(toolkit::Control& control, const std::string& said) override;
     int messageBox(const toolkit::MessageBox& box) override;
     void doEvents() override;
     double screenWidth() override;
