@@ -123,14 +123,18 @@ void ControlWindow::place() {
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// The focus that goes may bring up a message box: behind it the button is long up again, and no
+// click will follow.
+bool ControlWindow::enter() {
+    if (!toolkit::takesFocus(control_) || GetFocus() == handle())
+        return true;
+    SetFocus(handle());
+    return !gone() && GetFocus() == handle() && GetKeyState(VK_LBUTTON) < 0;
+}
+
 LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_LBUTTONDOWN && toolkit::takesFocus(control_) && GetFocus() != handle()) {
-        // The focus that goes may bring up a message box: behind it the button is long up again,
-        // and no click will follow.
-        SetFocus(handle());
-        if (gone() || GetFocus() != handle() || GetKeyState(VK_LBUTTON) >= 0)
-            return 0;
-    }
+    if (message == WM_LBUTTONDOWN && !enter())
+        return 0;
     if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT && !speaksItself())
         return accessibleObject(std::static_pointer_cast<ControlWindow>(shared_from_this()),
                                 wParam);

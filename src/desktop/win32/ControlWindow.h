@@ -49,6 +49,8 @@ protected:
     // Where the control shall stand in its parent, in pixels.
     virtual RECT rectangle() const { return desktop_win32::rectangle(control_, dpi()); }
     virtual void place();
+    // A press of the mouse brings the focus first. False where nothing is left of the press.
+    bool enter();
     // Tells the toolkit that the control has got the focus.
     void reportFocus();
 

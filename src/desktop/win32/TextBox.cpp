@@ -53,16 +53,12 @@ protected:
             if (gone())
                 return 0;
         }
-        const bool enters = message == WM_LBUTTONDOWN && GetFocus() != handle();
-        const LRESULT result = ControlWindow::received(message, wParam, lParam);
-        if (gone())
-            return result;
         // A press that brings the focus leaves what the program has selected when the focus came.
-        if (enters && box_.SelLength > 0) {
-            ReleaseCapture();
-            select();
-        }
-        takeSelection();
+        if (message == WM_LBUTTONDOWN && GetFocus() != handle() && (!enter() || box_.SelLength > 0))
+            return 0;
+        const LRESULT result = ControlWindow::received(message, wParam, lParam);
+        if (!gone())
+            takeSelection();
         return result;
     }
     void showCaption() override {}

@@ -114,8 +114,11 @@ void Win32Desktop::focus(Control& control) {
     if (!window)
         return;
     SetFocus(window->handle());
-    if (!window->gone())
-        toolkit::Screen.focusMoved(control); // also where another program is in front
+    // Where another program is in front nothing has the focus. What has lost it may have taken it
+    // back.
+    HWND const now = GetFocus();
+    if (!window->gone() && (!now || now == window->handle()))
+        toolkit::Screen.focusMoved(control);
 }
 
 void Win32Desktop::announce(Control& control, const std::string& said) {
