@@ -1,4 +1,4 @@
-#include "desktop/win32/ControlWindow.h"
+#include "desktop/win32/GridAccessible.h"
 
 #include <windowsx.h>
 
@@ -13,9 +13,9 @@ using toolkit::MSFlexGrid;
 // Painted by the program, as the system has no table of its kind: the fixed row and column stay in
 // view, the rest is scrolled below them. The current row is the toolkit's; the window tells the
 // grid what the user did, and highlights what the grid answers.
-class MSFlexGridWindow final : public PaintedWindow {
+class MSFlexGridWindow final : public GridWindow {
 public:
-    MSFlexGridWindow(MSFlexGrid& grid) : PaintedWindow(grid), grid_(grid) {}
+    using GridWindow::GridWindow;
 
     static std::shared_ptr<ControlWindow> make(MSFlexGrid& grid, HWND parent) {
         const auto it = std::make_shared<MSFlexGridWindow>(grid);
@@ -25,8 +25,27 @@ public:
     }
 
     void changed(toolkit::Prop which) override;
-    void cellChanged(int /*row*/, int /*column*/) override { repaint(); }
+    void cellChanged(int row, int column) override {
+        repaint();
+        tellCell(*this, {row, column});
+    }
     void paintAt(HDC dc, POINT place) override;
+
+    RECT cellPlace(Cell cell) const override {
+        const int left = start(columns(), cell.column), top = start(rows(), cell.row);
+        return {left, top, left + size(columns(), cell.column), top + size(rows(), cell.row)};
+    }
+    RECT cellInView(Cell cell) const override {
+        const RECT all = cellPlace(cell);
+        const RECT view{begin(columns(), cell.column), begin(rows(), cell.row), room(columns()),
+                        room(rows())};
+        RECT seen{};
+        IntersectRect(&seen, &all, &view);
+        return seen;
+    }
+    Cell cellAt(POINT place) const override {
+        return {at(rows(), place.y), at(columns(), place.x)};
+    }
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -63,20 +82,21 @@ private:
         return sizes(axis, 0, index) - (index < axis.fixed ? 0 : GetScrollPos(handle(), axis.bar));
     }
     int at(const Axis& axis, int place) const {
-        const int fixed = sizes(axis, 0, std::min(axis.fixed, axis.count));
-        for (int i = 0; i < axis.count; ++i)
-            if (place >= start(axis, i) && place < start(axis, i) + size(axis, i) &&
-                (i < axis.fixed || place >= fixed))
+        for (int i = 0; i < axis.count && place < room(axis); ++i)
+            if (place >= std::max(start(axis, i), begin(axis, i)) &&
+                place < start(axis, i) + size(axis, i))
                 return i;
         return -1;
     }
+    // From where on it can be seen: what is scrolled goes below the fixed ones.
+    int begin(const Axis& axis, int index) const {
+        return index < axis.fixed ? 0 : sizes(axis, 0, std::min(axis.fixed, axis.count));
+    }
     // The row of a data cell, 0 for a header cell, -1 for none.
     int rowAt(LPARAM place) const {
-        const int row = at(rows(), GET_Y_LPARAM(place));
-        const int column = at(columns(), GET_X_LPARAM(place));
-        if (row < 0 || column < 0)
-            return -1;
-        return row < grid_.FixedRows || column < grid_.FixedCols ? 0 : row;
+        const auto [row, column] = cellAt({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
+        const bool header = row < grid_.FixedRows || column < grid_.FixedCols;
+        return row < 0 || column < 0 ? -1 : header ? 0 : row;
     }
 
     void showBars();
@@ -86,8 +106,6 @@ private:
     void showRow();
     void paintCell(HDC dc, int row, int column, POINT place);
     void press(UINT message, LPARAM place);
-
-    MSFlexGrid& grid_;
 };
 
 void MSFlexGridWindow::changed(toolkit::Prop which) {
@@ -99,7 +117,8 @@ void MSFlexGridWindow::changed(toolkit::Prop which) {
         return repaint();
     case toolkit::Prop::Row:
         showRow();
-        return repaint();
+        repaint();
+        return tellChosenRow(*this);
     default:
         return ControlWindow::changed(which);
     }
@@ -125,20 +144,17 @@ void MSFlexGridWindow::showBars() {
 }
 
 void MSFlexGridWindow::showBar(const Axis& axis, int room) {
-    const int fixed = sizes(axis, 0, std::min(axis.fixed, axis.count));
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE;
     info.nMax = std::max(0, sizes(axis, axis.fixed, axis.count) - 1);
-    info.nPage = static_cast<UINT>(std::max(1, room - fixed));
+    info.nPage = static_cast<UINT>(std::max(1, room - begin(axis, axis.fixed)));
     SetScrollInfo(handle(), axis.bar, &info, TRUE);
 }
 
 void MSFlexGridWindow::scrollTo(const Axis& axis, int position) {
-    if (GetScrollPos(handle(), axis.bar) == SetScrollPos(handle(), axis.bar, position, TRUE) &&
-        GetScrollPos(handle(), axis.bar) == position)
-        return;
-    repaint();
+    if (SetScrollPos(handle(), axis.bar, position, TRUE) != position)
+        repaint();
 }
 
 void MSFlexGridWindow::scroll(const Axis& axis, WORD how) {
@@ -254,15 +270,20 @@ LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         if (wParam == VK_LEFT || wParam == VK_RIGHT)
             scroll(columns(), wParam == VK_LEFT ? SB_LINEUP : SB_LINEDOWN);
         return 0;
+    case WM_GETOBJECT:
+        if (static_cast<LONG>(lParam) == OBJID_CLIENT)
+            return accessibleGrid(std::static_pointer_cast<GridWindow>(shared_from_this()), wParam);
+        break;
+    case WM_SETFOCUS:
+        tellFocus(*this);
+        break;
     case WM_SIZE:
         showBars();
         break;
-    case WM_LBUTTONDOWN: {
-        PaintedWindow::received(message, wParam, lParam); // the focus comes first
-        if (!gone() && GetFocus() == handle() && GetKeyState(VK_LBUTTON) < 0)
+    case WM_LBUTTONDOWN:
+        if (enter())
             press(message, lParam);
         return 0;
-    }
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK:
         press(message, lParam);
