@@ -1,6 +1,6 @@
 """The page "Bankroll", kept by a German user, and once by an American too."""
 
-from desk import BLUE, RED, Road, click, keys, shows, until, xdotool
+from desk import BLUE, RED, Road, click, keys, shows, system, until, xdotool
 
 BOXES = ["Date Started", "Total Amount of Bets", "Winnings", "Largest Win"]
 
@@ -81,5 +81,6 @@ class Bankroll(Road):
         self.assertEqual((rows.chosen(), rows.drawn()), (1, []))
         program.tool("Bankroll")
         program.page("Bankroll").press("Calculator")
-        until(lambda: xdotool("search", "--onlyvisible", "--class", "galculator"), "the calculator")
-        xdotool("search", "--onlyvisible", "--class", "galculator", "windowkill")
+        calculator = "search", "--onlyvisible", "--class", system.CALCULATOR
+        until(lambda: xdotool(*calculator), "the calculator")
+        xdotool(*calculator, "windowkill")

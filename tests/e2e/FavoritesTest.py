@@ -28,7 +28,7 @@ class Favorites(Road):
         keys("Return")
         until(lambda: (page.row(1, 2), page.row(3, 2)) == (["1", "4"], ["5", "9"]), "the swap")
         keys("Up", "Up", "alt", "Right", "Down", "Return")  # Delete Grid Row
-        self.assertIn("delete this row", program.box().lines[1])
+        self.assertIn("delete this row", program.asked())
         keys("y")
         until(lambda: page.row(2, 2) == ["5", "9"], "the deletion")
         keys("Escape")
@@ -38,5 +38,5 @@ class Favorites(Road):
         keys("y")
         self.assertEqual(program.process.wait(10), 0)
         lines = self.data("cp1251")
-        self.assertRegex(lines[1], r"^\d+\.\d+\.\d{4} г\.")
+        self.assertRegex(lines[1], r"^\d+\.\d+\.\d{4}\sг\.")
         self.assertEqual(lines[16:20], ["[Favorites]", "1.ж;;;;;;", "2.5;9;;;;;", "3.;;;;;;"])

@@ -210,13 +210,17 @@ class Program:
         return Page(until(lambda: next(w for w in self.windows() if w.role == "alert"
                                        and w.has("ACTIVE")), "a message box"))
 
+    def asked(self):
+        """The text of the message box in front."""
+        return next(name for role, name in self.box().nodes if role == "label" and name)
+
     def answer(self, button):
         """Answers the message box by a click, and gives its text."""
-        box = self.box()
+        text, box = self.asked(), self.box()
         box.press(button)
         until(lambda: box.window not in self.windows()
               or self.process.poll() is not None, "the end of the box")
-        return next(name for role, name in box.nodes if role == "label" and name)
+        return text
 
     def end(self):
         """Ends the run from the toolbar, through the question."""

@@ -9,6 +9,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402 pylint: disable=wrong-import-position
 
 GONE = (GLib.Error,)
+CALCULATOR = "galculator"  # the class of its window
 Atspi.init()
 Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)  # nothing here runs the loop that renews it
 
