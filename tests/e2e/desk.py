@@ -133,11 +133,13 @@ class Page:
         return [n for n in range(1, 50) if holds(self[role, str(n)], n)]
 
     def drawn(self):
-        """The drawn numbers, which are those spoken so and painted red."""
-        numbers = self.numbers("label", lambda node, n: node.name == f"{n}, drawn")
-        red = shows(RED, [self["label", str(n)] for n in range(1, 50)])
-        assert numbers == [n for n in range(1, 50) if red[n - 1]], f"drawn are {numbers}"
-        return numbers
+        """The drawn numbers, which are those spoken so and painted red. They are read one by one,
+        and may change meanwhile."""
+        def read():
+            spoken = self.numbers("label", lambda node, n: node.name == f"{n}, drawn")
+            red = shows(RED, [self["label", str(n)] for n in range(1, 50)])
+            return [spoken] if spoken == [n for n in range(1, 50) if red[n - 1]] else None
+        return until(read, "drawn numbers that are red")[0]
 
     def picked(self):
         return self.numbers("push button", lambda node, n: node.name == f"{n}, picked")
