@@ -30,25 +30,12 @@ void fail(toolkit::Object& object) {
     object.attach(std::make_unique<FailingPeer>());
 }
 
-// Opens forms some of whose controls can't be changed while they are loaded.
-struct FailingDesktop : FakeDesktop {
-    void open(toolkit::Form& form) override {
-        for (toolkit::Control* const control : allControls(form))
-            if (dynamic_cast<toolkit::MSFlexGrid*>(control) ||
-                dynamic_cast<toolkit::OptionButton*>(control))
-                fail(*control);
-        for (int i = 0; i < 10 && form.name() == "frmMain"; ++i)
-            fail(static_cast<frmMain&>(form).mnuSystemPlay(i));
-    }
-};
-
 class FailuresTest : public ProgramTest {
 protected:
-    FailingDesktop failing;
     MDIForm1& frame = open<MDIForm1>();
 
     FailuresTest() {
-        failing.last = desk.last = toolkit::Ignore;
+        desk.last = toolkit::Ignore;
         fillRows(gstrStammNumbers, "12");
         fillRows(gstrFavorites, "12");
     }
@@ -99,16 +86,20 @@ TEST_F(FailuresTest, RoutinesOfThePagesReportUnderLabelsOfTheirOwn) {
     frmMain::the().Unload();
 
     fillRows(gstrFavorites, "1");
-    toolkit::install(&failing);
+    for (int i = 0; i < 10; ++i) {
+        fail(frmMain::the().opt1(i));
+        fail(frmMain::the().mnuSystemPlay(i));
+    }
     open<frmMain>();
+    EXPECT_EQ(reported(), (Labels{"frmMain.SetFormProperties", "XXX.CheckMenuSystemPlay"}));
+    fail(frmCustomize6::the().grd1);
     open<frmCustomize6>();
-    open<frmFavorites>();
-    toolkit::install(&desk);
-    desk.boxes = failing.boxes;
     EXPECT_EQ(reported(),
-              (Labels{"frmMain.SetFormProperties", "XXX.CheckMenuSystemPlay",
-                      "frmCustomize6.SetFormProperties", "frmCustomized.GetCustomizeUDTs",
-                      "frmFavorites.SetFormProperties", "frmFavorite.GetFavoriteUDTs"}));
+              (Labels{"frmCustomize6.SetFormProperties", "frmCustomized.GetCustomizeUDTs"}));
+    fail(frmFavorites::the().grd1);
+    open<frmFavorites>();
+    EXPECT_EQ(reported(),
+              (Labels{"frmFavorites.SetFormProperties", "frmFavorite.GetFavoriteUDTs"}));
 }
 
 TEST_F(FailuresTest, OtherRoutinesReportUnderLabelsOfTheirOwn) {

@@ -89,6 +89,7 @@ TEST_F(WebsiteTest, TheLinksAreOfferedJustWhenTheProductPageCannotBeOpened) {
             box->keyDown(code, 0);
             box->keyPress(character);
             EXPECT_EQ(code + character, 0);
+            EXPECT_TRUE(box->Locked); // nor does a mouse paste
         }
         userClick(form.cmdCancel);
         EXPECT_TRUE(form.loaded());
