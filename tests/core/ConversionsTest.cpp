@@ -1,5 +1,6 @@
 #include "common/DateText.h"
 #include "common/NumberText.h"
+#include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
 
 #include <gtest/gtest.h>
@@ -20,19 +21,8 @@ struct Conversions : testing::Test {
     std::map<int, std::string>& items = platform.locale.items;
 };
 
-// The number of the failure that a conversion raises.
-template <class Convert>
-int failureOf(Convert convert, std::string_view text) {
-    try {
-        convert(text);
-        return 0;
-    } catch (const platform::RuntimeError& error) {
-        return error.number;
-    }
-}
-
-std::vector<std::string> betweenBars(const std::string& texts) {
-    std::vector<std::string> result;
+tests::Texts betweenBars(const std::string& texts) {
+    tests::Texts result;
     std::istringstream rest(texts);
     for (std::string text; std::getline(rest, text, '|');)
         result.push_back(text);
@@ -85,19 +75,19 @@ TEST_F(Conversions, NumbersAreReadWithSignSeparatorsAndExponent) {
 TEST_F(Conversions, WhatIsNoNumberIsATypeMismatchAndATooLargeOneAnOverflow) {
     for (const auto& text :
          betweenBars("|-|.|,5|e5|1e|1e+|1.2.3|1.5,0|12a|--1|1-|1 2|0x10|inf|1e5.0|١"))
-        EXPECT_EQ(failureOf(CDbl, text), platform::TypeMismatch) << text;
-    EXPECT_EQ(failureOf(CDbl, std::string_view("1\0", 2)), platform::TypeMismatch);
+        EXPECT_EQ(tests::numberOf([&] { CDbl(text); }), platform::TypeMismatch) << text;
+    EXPECT_EQ(tests::numberOf([&] { CDbl(std::string_view("1\0", 2)); }), platform::TypeMismatch);
     for (const char* text : {"-1e400", "1.8e308", "1e99999999999999999999999"})
-        EXPECT_EQ(failureOf(CDbl, text), platform::Overflow) << text;
+        EXPECT_EQ(tests::numberOf([&] { CDbl(text); }), platform::Overflow) << text;
     for (const auto& [text, whole] : {std::pair("2.5", 2), {"-3.5", -4}, {"-32768.5", -32768}})
         EXPECT_EQ(CInt(text), whole) << text;
-    EXPECT_EQ(failureOf(CInt, "32767.5"), platform::Overflow);
+    EXPECT_EQ(tests::numberOf([&] { CInt("32767.5"); }), platform::Overflow);
 }
 
 // A time that grows with the square of the size would not end.
 TEST_F(Conversions, TextOfTenMegabytesIsRead) {
     const std::string text(10'000'000, '9');
-    EXPECT_EQ(failureOf(CDbl, text), platform::Overflow);
+    EXPECT_EQ(tests::numberOf([&] { CDbl(text); }), platform::Overflow);
     EXPECT_EQ(CDbl(text + "e-9999999"), 10);
     EXPECT_EQ(ReadDate(text), std::nullopt);
 }

@@ -35,7 +35,7 @@ TEST_F(LinuxFiles, FailureHasTheNumberThatItsCauseTells) {
     EXPECT_EQ(::seteuid(65534), ::getuid() == 0 ? 0 : -1);
     EXPECT_EQ(numbersOf("shut/file"), "0 76 70 0 70 ");
     EXPECT_EQ(numbersOf("pipe"), "75 76 0 75 0 ");
-    EXPECT_EQ(numberOf([&] { files.openForInput("/dev/zero"); }), 75);
+    EXPECT_EQ(tests::numberOf([&] { files.openForInput("/dev/zero"); }), 75);
     EXPECT_EQ(::seteuid(::getuid()), 0);
 }
 
@@ -61,8 +61,8 @@ TEST_F(LinuxFiles, SettingsThatCanNotBeReadAreReportedAndNotTakenForMissingOnes)
     platform::LinuxSettings settings;
     const auto get = [&] { return settings.get("Maker", "Title ", "system", "0"); };
     fs::create_directories(files.path("Maker/quorvanta.ini"));
-    EXPECT_EQ(numberOf(get), 75);
-    EXPECT_EQ(numberOf([&] { settings.save("Maker", "Title ", "system", "3"); }), 75);
+    EXPECT_EQ(tests::numberOf(get), 75);
+    EXPECT_EQ(tests::numberOf([&] { settings.save("Maker", "Title ", "system", "3"); }), 75);
     fs::remove(files.path("Maker/quorvanta.ini"));
     EXPECT_EQ(get(), "0");
     settings.save("Maker", "Title ", "system", "3");

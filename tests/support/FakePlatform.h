@@ -18,6 +18,16 @@ namespace tests {
 // Thrown where the real process would end, so that nothing behind it runs.
 struct ProcessEnded {};
 
+// The number of the failure that an operation raises, or 0.
+inline int numberOf(const std::function<void()>& operation) {
+    try {
+        operation();
+        return 0;
+    } catch (const platform::RuntimeError& error) {
+        return error.number;
+    }
+}
+
 struct FakeProcess : platform::Process {
     bool prevInstance(const std::string& /*directory*/) override { return false; }
     void whenAskedToEnd(std::function<void()> /*wanted*/) override {}

@@ -102,15 +102,6 @@ struct FilesTest : RealFilesPlatform {
     }
     std::string dataFile() { return files.content("Quorvanta.txt"); }
 
-    static int numberOf(const std::function<void()>& operation) {
-        try {
-            operation();
-            return 0;
-        } catch (const platform::RuntimeError& error) {
-            return error.number;
-        }
-    }
-
     // The numbers of reading, entering, replacing, appending and removing.
     Texts::value_type numbersOf(const std::string& name) {
         const std::string path = files.path(name);

@@ -31,7 +31,7 @@ TEST_F(Windows, FailureHasTheNumberThatItsCauseTells) {
     SetFileAttributesW(wide(files.path("shut")).c_str(), FILE_ATTRIBUTE_NORMAL);
     const Handle other = held("held", 0);
     EXPECT_EQ(numbersOf("held"), "70 76 70 70 70 ");
-    EXPECT_EQ(numberOf([&] { files.openForInput("NUL"); }), 75);
+    EXPECT_EQ(tests::numberOf([&] { files.openForInput("NUL"); }), 75);
 }
 
 TEST_F(Windows, SaveWaitsForThoseWhoLookIntoTheFileForAMoment) {
