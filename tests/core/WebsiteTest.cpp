@@ -78,6 +78,7 @@ TEST_F(WebsiteTest, TheLinksAreOfferedJustWhenTheProductPageCannotBeOpened) {
         userClick(MDIForm1::the().mnuWebsite);
         EXPECT_EQ(opened(), answer < 0 ? Texts{} : Texts{kProduct});
         ASSERT_EQ(frmURL::ifLoaded() != nullptr, offered) << answer;
+        EXPECT_EQ(std::exchange(desk.modal, {}), offered ? Texts{"frmURL"} : Texts{});
         if (!offered)
             continue;
         frmURL& form = frmURL::the();
@@ -104,6 +105,7 @@ TEST_F(WebsiteTest, TheAnimationRunsRoundFromItsFirstFrameUntilADoubleClick) {
         os.shell.broken = broken;
         frmAbout& about = frmAbout::the();
         about.Show(true);
+        EXPECT_TRUE(about.Timer1.Enabled && about.Timer1.Interval == 75);
         std::set<std::vector<toolkit::Colour>> frames;
         for (int tick = 0; tick < 65; ++tick) {
             about.Timer1.fire();

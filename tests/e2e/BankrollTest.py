@@ -29,7 +29,6 @@ class Bankroll(Road):
             self.check_order(page, ("text", BOXES), ("push button", ["Close", "Calculator"]))
             label = page["label", balances[0]]
             until(lambda: shows(BLUE, [label])[0], "a blue balance")
-            click(page["text", BOXES[1]])
             for amount, balance in (("1000", balances[1]), ("2000", balances[2])):
                 keys(*amount, "Tab")
                 until(lambda: label.name == balance, balance)

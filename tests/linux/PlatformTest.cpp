@@ -25,7 +25,6 @@ struct LinuxFiles : testing::Test, tests::FilesTest {};
 
 TEST_F(LinuxFiles, FailureHasTheNumberThatItsCauseTells) {
     ASSERT_EQ(::mkfifo(files.path("pipe").c_str(), 0666), 0);
-    fs::create_directory(files.path("shut"));
     files.create("shut/file", "");
     for (const char* name : {"pipe", "shut/file"})
         fs::permissions(files.path(name), fs::perms(0666));
@@ -95,6 +94,12 @@ struct Shell : testing::Test {
         files.create("xdg-open", script);
         fs::permissions(files.path("xdg-open"), fs::perms::owner_all);
     }
+    // Comes within seconds.
+    void expectFile(const std::string& name) const {
+        for (int i = 0; i < 500 && !fs::exists(files.own(name)); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        EXPECT_TRUE(fs::exists(files.own(name)));
+    }
     int open(const std::string& address, const char* directory = nullptr) {
         return shell.ShellExecuteA(0, "open", address.c_str(), nullptr, directory, 1);
     }
@@ -107,8 +112,7 @@ TEST_F(Shell, GivesTheOpenerTheAddressAsItStandsAndLeavesItAlone) {
     testing::internal::CaptureStderr();
     const std::string address = "www.a.example/?q=$(touch${IFS}hit)&`id`;'\"|*>x#%20";
     EXPECT_GT(open(address), platform::kShellFailure);
-    for (int i = 0; i < 500 && !fs::exists(files.path("noted")); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    expectFile("noted");
     EXPECT_EQ(files.content("noted"), "http://" + address + "|");
     EXPECT_EQ(testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr(), "");
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
@@ -155,8 +159,6 @@ TEST_F(Shell, FindsTheDesktopsOwnCalculatorFirstAndInTheMenuWhatBearsNoKnownName
     setenv("XDG_CURRENT_DESKTOP", "X:MATE", 1);
     setenv("XDG_DATA_HOME", files.directory.c_str(), 1);
     setenv("XDG_DATA_DIRS", files.path("system").c_str(), 1);
-    fs::create_directories(files.path("applications"));
-    fs::create_directories(files.path("system/applications"));
     const auto entry = [&](const std::string& name, const std::string& keys) {
         files.create(name, "[Desktop Entry]\nCategories=Utility;Calculator;\n" + keys +
                                "\n[Desktop Action x]\nExec=/bin/false\n");
@@ -169,20 +171,17 @@ TEST_F(Shell, FindsTheDesktopsOwnCalculatorFirstAndInTheMenuWhatBearsNoKnownName
     entry("system/applications/hidden.desktop", note);
     files.create("applications/other.desktop", "[Desktop Entry]\nCategories=Math;\n" + note);
 
-    const auto paths = shell.calculators("/usr/bin");
-    EXPECT_EQ(std::vector(paths.begin(), paths.begin() + 3),
-              std::vector<std::string>(
-                  {"/usr/bin/mate-calc", "/usr/local/bin/mate-calc", "/usr/bin/gnome-calculator"}));
-    EXPECT_EQ(std::count(paths.begin(), paths.end(), "/usr/bin/gnome-calculator"), 1);
+    const Texts paths = shell.calculators("/usr/bin");
     EXPECT_EQ(
-        std::vector(paths.end() - 2, paths.end()),
-        std::vector({std::string("/usr/local/bin/xcalc"), files.path("applications/a.desktop")}));
+        Texts(paths.begin(), paths.begin() + 3),
+        (Texts{"/usr/bin/mate-calc", "/usr/local/bin/mate-calc", "/usr/bin/gnome-calculator"}));
+    EXPECT_EQ(std::ranges::count(paths, "/usr/bin/gnome-calculator"), 1);
+    EXPECT_EQ(Texts(paths.end() - 2, paths.end()),
+              (Texts{"/usr/local/bin/xcalc", files.path("applications/a.desktop")}));
     EXPECT_EQ(shell.calculators("/usr/sbin").back(), "/usr/sbin/xcalc");
 
     shell.start(paths.back());
-    for (int i = 0; i < 500 && !fs::exists(files.own("not ed")); ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    EXPECT_TRUE(fs::exists(files.own("not ed")));
+    expectFile("not ed");
     EXPECT_THROW(shell.start(files.path("applications/gone.desktop")), platform::RuntimeError);
 }
 

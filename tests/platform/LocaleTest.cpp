@@ -38,14 +38,6 @@ constexpr Row kRows[] = {
     {"de_DE", LOCALE_SENGLANGUAGE, "|German|Germany|HH:mm:ss|1252"},
     {"de_DE", LOCALE_SDAYNAME1 + 5, "|Samstag|Sonntag"},
     {"de_DE", LOCALE_SMONTHNAME1, "|Januar|Februar|M\xE4rz"},
-    {"ru_RU", LOCALE_ILANGUAGE,
-     "|0419|\xF0\xF3\xF1\xF1\xEA\xE8\xE9 "
-     "(\xD0\xEE\xF1\xF1\xE8\xFF)|RUS|\xF0\xF3\xF1\xF1\xEA\xE8\xE9|7|\xD0\xEE\xF1\xF1\xE8\xFF|RUS|"
-     "\xD0\xEE\xF1\xF1\xE8\xFF|0419|7|866",
-     "|0419|Russian "
-     "(Russia)|RUS|\xF0\xF3\xF1\xF1\xEA\xE8\xE9|7|Russia|RUS|\xD0\xEE\xF1\xF1\xE8\xFF|0419|7|866"},
-    {"ru_RU", LOCALE_SLIST, "|;|0|,|\xA0|3;0|2|1|0123456789|RUB|RUB|,|\xA0|3;0|2|2|3|8",
-     "|;|0|,|\xA0|3;0|2|1|0123456789|?|RUB|,|\xA0|3;0|2|2|3|8"},
     {"ru_RU", LOCALE_SDATE, "|.|:|dd.MM.yyyy|d MMMM yyyy '\xE3.'|1|1|1|1",
      "|.|:|dd.MM.yyyy|dddd, d MMMM yyyy\xA0'\xE3'.|1|1|1|1"},
     {"ru_RU", LOCALE_SENGLANGUAGE, "|Russian|Russia|HH:mm:ss|1251"},

@@ -69,6 +69,7 @@ struct RealFiles : SystemFiles {
         return {std::istreambuf_iterator<char>(file), {}};
     }
     void create(const std::string& name, const std::string& text) const {
+        std::filesystem::create_directories(own(name).parent_path());
         std::ofstream(own(name), std::ios::binary) << text;
     }
 };

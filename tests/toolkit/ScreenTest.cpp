@@ -44,6 +44,7 @@ TEST_F(ScreenTest, ThePageBelowComesForwardWhenAPageGoes) {
         sheet();
     sheets[3]->hWnd = 7;
     EXPECT_EQ(Forms.withWindow(7), sheets[3].get());
+    EXPECT_EQ(Forms.withWindow(8), nullptr);
     EXPECT_EQ(Forms.frame(), &frame);
     sheets[2]->Show();            // from the back: 1 3 4 2
     sheets[4]->second.SetFocus(); // 1 3 2 4

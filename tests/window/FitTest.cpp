@@ -1,5 +1,5 @@
-// Whether every text has the room that it needs and stands where it should, at the scale and for
-// the user that the environment and the arguments tell.
+// Whether every text has the room that it needs and stands where it should, at the scale that the
+// environment tells.
 #include "bankroll/frmBankroll.h"
 #include "common/frmURL.h"
 #include "desktop/qt/FormWindow.h"
@@ -120,8 +120,7 @@ TEST(Fit, NoTextIsCutOffAndNothingIsMirrored) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc > 1)
-        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft); // as for a user who reads so
     desktop_qt::QtDesktop desktop;
     toolkit::install(&desktop);
     ::testing::InitGoogleTest(&argc, argv);
