@@ -1,6 +1,6 @@
 """The page "Favorites", worked by the keyboard alone, by a user of another code page."""
 
-from desk import NUMBERS, Road, keys, until
+from desk import NUMBERS, Road, keys, system, until, xdotool
 
 
 class Favorites(Road):
@@ -15,6 +15,9 @@ class Favorites(Road):
         self.check_order(page, ("table", ["Favorites"]),
                          ("push button", [*range(1, 50), "File to Grid", "Reset", "Close"]))
         self.assertEqual([page.row(1, 6), page.cell(2).name], [["5", "9", *[""] * 4], "ж"])
+        x, y, *_ = page.cell(10, 6).box  # the whole grid is in view
+        xdotool("mousemove", x + 5, y + 5)
+        until(lambda: "Double click to delete a row" in system.tips(program.process), "the tip")
         keys("space", "Tab", "Tab", "space", "Tab", "space")
         until(lambda: page.picked() == [1, 3, 4], "the picks")
         keys("shift+Tab", "space", "alt+f")  # 3 is taken back

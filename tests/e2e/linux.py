@@ -108,6 +108,10 @@ def windows(process):
             for window in application.children()]
 
 
+def tips(process):
+    return [window.name for window in windows(process) if window.role == "tool tip"]
+
+
 def part(frame, role):
     return next(node for node in frame.children() if node.role == role)
 

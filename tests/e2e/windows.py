@@ -125,10 +125,16 @@ def start(folder, environment):
     return subprocess.Popen([WINE, folder + "quorvanta.exe"], env=environment)
 
 
+def every_window(process):
+    return map(Node, ask("windows Z:" + process.args[1].replace("/", "\\")))
+
+
 def windows(process):
-    file = "Z:" + process.args[1].replace("/", "\\")
-    return [node for node in map(Node, ask("windows " + file))
-            if node.facts["class"] not in NO_WINDOWS]
+    return [node for node in every_window(process) if node.facts["class"] not in NO_WINDOWS]
+
+
+def tips(process):
+    return [node.text for node in every_window(process) if node.facts["class"] == NO_WINDOWS[0]]
 
 
 def opener(folder, there):
