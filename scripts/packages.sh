@@ -8,7 +8,7 @@ display_packages=(xvfb openbox imagemagick x11-utils xdotool fonts-dejavu-core)
 print_packages=(cups cups-client cups-filters printer-driver-cups-pdf poppler-utils)
 test_packages=(libgtest-dev libbenchmark-dev desktop-file-utils appstream libglib2.0-bin
     gtk-update-icon-cache galculator at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi
-    weston qt6-wayland libsm6 libice6 "${print_packages[@]}" "${display_packages[@]}")
+    weston qt6-wayland "${print_packages[@]}" "${display_packages[@]}")
 # The cross compiler, Wine to run what it makes, and what its windows need.
 windows_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest wine wine64 fonts-wine
     fonts-liberation locales icoutils python3 zip "${picture_packages[@]}" "${print_packages[@]}"

@@ -29,7 +29,7 @@ protected:
 TEST_F(WebsiteTest, OnlyLettingAnActionWordLaunchesAndEachTimeAnew) {
     const std::string page = "open https://a.example/", mail = "open mailto:me@a.example";
     for (const auto& [word, launched] : std::vector<std::pair<std::string, Texts>>{
-             {"URL", {page, page}}, {"Email", {mail, mail}}, {"web", {}}, {"url ", {}}}) {
+             {"URL", {page, page}}, {"eMAIL", {mail, mail}}, {"web", {}}, {"url ", {}}}) {
         internet.prpAction.Set(word);
         EXPECT_EQ(opened(), Texts{}) << word;
         internet.prpAction = word;

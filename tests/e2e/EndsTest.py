@@ -1,15 +1,13 @@
-"""How a run begins and ends that its user doesn't end: by its display, by its session, twice."""
+"""How a run begins and ends that its user doesn't end: by its display, or begun twice."""
 
 import contextlib
 import os
 import shutil
 import subprocess
-import sys
 import time
 
 from desk import APP, FRAME, PLACE, Page, Program, Road, in_front, system, until
 
-MANAGER = [sys.executable, os.path.dirname(__file__) + "/session_manager.py"]
 ROW = "1.7;8;;;;;"
 
 
@@ -65,36 +63,6 @@ class Ends(Road):
                     self.assertEqual(len(self.data()), 35)  # written anew, and whole
                     self.assertEqual(self.data()[17:19],
                                      ["1." if moment == "splash" else ROW, "2.5;6;;;;;"])
-
-    def test_only_the_sessions_real_end_ends_the_run(self):
-        for calls, ends in ((["checkpoint", "logout", "cancel", "die"], True),
-                            (["logout", "kill"], False), (["kill"], False)):
-            with self.subTest(calls=calls):
-                self.write_data("[Favorites]")
-                manager = subprocess.Popen(MANAGER, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                           stderr=subprocess.DEVNULL, text=True)
-                self.addCleanup(manager.communicate)
-                program = self.run_program(SESSION_MANAGER=manager.stdout.readline().strip())
-                self.assertEqual(manager.stdout.readline(), "done 1\n")  # to its registration
-                file_row(program)
-                for call in calls:
-                    if call == "kill":
-                        manager.kill()
-                    else:
-                        print(call, file=manager.stdin, flush=True)
-                    if call in ("checkpoint", "logout"):
-                        self.assertEqual(manager.stdout.readline(), "done 1\n")
-                    if call != "die":
-                        time.sleep(0.5)
-                        self.assertEqual((program.process.poll(), len(self.data())), (None, 3))
-                        before = program.used()
-                        time.sleep(0.5)
-                        self.assertLess(program.used() - before, 0.1)  # it doesn't spin
-                        program.tool("Bankroll" if call == "cancel" else "6 from 49")
-                        program.page("Bankroll" if call == "cancel" else "6 From 49")
-                if not ends:
-                    program.end()
-                self.assertEqual((program.process.wait(5), self.data()[17]), (0, ROW))
 
     def test_one_run_in_a_folder_whoever_starts_it_and_no_argument_tells_it_anything(self):
         newer, link = APP + "newer", PLACE + "/link"

@@ -59,7 +59,9 @@ TEST_F(ScreenTest, ThePageBelowComesForwardWhenAPageGoes) {
     EXPECT_EQ(take(), "+2f+1f"); // a page that has gone loses nothing
     EXPECT_EQ(Screen.ActiveForm(), &frame);
     EXPECT_EQ(desk.loopsEnded, 0);
+    const Sheet& page = sheet();
     frame.Unload();
+    EXPECT_FALSE(page.loaded());
     EXPECT_EQ(desk.loopsEnded, 1);
 }
 
