@@ -30,20 +30,21 @@ TEST_F(PrintTest, ThePageShowsTheStoredTextsInTheirPlaces) {
     tests::open<quorvanta::frmFavorites>().grd1.TextMatrix(1, 1) = "7"; // not what is stored
     EXPECT_EQ(print(), 0U);
     ASSERT_EQ(desk.printed.at(0).size(), 16U);
-    const toolkit::Font title{"", 18, true, true}, date{"", 8, true, true},
-        row{"", 10, false, true};
-    using Line = std::pair<std::size_t, toolkit::PrintedText>; // at its index
-    for (const auto& [index, line] :
-         std::vector<Line>{{1, {540, 500, "Quor Vanta \xAE Version 3.5", title, toolkit::kBlue}},
-                           {3, {240, 1150 + 184, "7/25/2005", date, toolkit::kBlack}},
-                           {6, {300, 3300 + 2 * 230, "1. 5;9;14;22;36;44;", row, toolkit::kBlack}},
-                           {15, {300, 3300 + 11 * 230, "10. odd text", row, toolkit::kBlack}}}) {
-        const auto properties = [](const toolkit::PrintedText& it) {
-            return std::tuple(it.text, it.left, it.top, it.font.size, it.font.bold, it.font.italic,
-                              it.font.underline, it.colour);
-        };
-        EXPECT_EQ(properties(desk.printed[0].at(index)), properties(line));
-    }
+    const auto told = [&](std::size_t index) {
+        const toolkit::PrintedText& it = desk.printed[0].at(index);
+        std::ostringstream text;
+        text << it.left << " " << it.top << " " << it.font.size << (it.font.bold ? " bold" : "")
+             << (it.font.italic ? " italic" : "") << (it.font.underline ? " underlined" : "")
+             << (it.colour == toolkit::kBlue    ? " blue "
+                 : it.colour == toolkit::kBlack ? " "
+                                                : " ? ")
+             << it.text;
+        return text.str();
+    };
+    EXPECT_EQ(told(1), "540 500 18 bold italic blue Quor Vanta \xAE Version 3.5");
+    EXPECT_EQ(told(3), "240 1334 8 bold italic 7/25/2005");
+    EXPECT_EQ(told(6), "300 3760 10 italic 1. 5;9;14;22;36;44;");
+    EXPECT_EQ(told(15), "300 5830 10 italic 10. odd text");
 }
 
 TEST_F(PrintTest, AFailureIsRetriedPassedOverOrGivesUpTheWholePage) {
