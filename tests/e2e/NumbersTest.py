@@ -14,6 +14,8 @@ class Numbers(Road):
     def test_a_play_is_drawn_by_the_system_chosen_and_the_choice_outlives_the_run(self):
         program = self.run_program()
         self.assertEqual(program.menus(), FRAME_MENUS)
+        tools = system.part(program.frame(), "tool bar").children()
+        self.assertEqual([tuple(tool.box[2:]) for tool in tools if tool.name], [(39, 38)] * 6)
         program.tool("6 from 49")
         page = program.page("6 From 49")
         self.assertEqual(page.lines, [

@@ -34,6 +34,7 @@ public:
         showImages();
         SendMessageW(handle(), TB_SETBUTTONSIZE, 0,
                      MAKELPARAM(scaled(bar_.kButtonWidth), scaled(bar_.kButtonHeight)));
+        setWidths();
         ControlWindow::lookChanged();
     }
 
@@ -58,6 +59,18 @@ private:
                 added = {0, 0, 0, BTNS_SEP, {}, 0, 0};
             SendMessageW(handle(), TB_ADDBUTTONSW, 1, reinterpret_cast<LPARAM>(&added));
         }
+    }
+
+    // The system would give each the width of its image and an edge of its own.
+    void setWidths() {
+        TBBUTTONINFOW button{};
+        button.cbSize = sizeof button;
+        button.dwMask = TBIF_SIZE;
+        button.cx = static_cast<WORD>(scaled(bar_.kButtonWidth));
+        for (std::size_t number = 1; number <= bar_.Buttons.size(); ++number)
+            if (!bar_.Buttons[number - 1].Key.empty())
+                SendMessageW(handle(), TB_SETBUTTONINFOW, number,
+                             reinterpret_cast<LPARAM>(&button));
     }
 
     void showImages() {
