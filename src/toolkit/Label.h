@@ -30,6 +30,8 @@ public:
     }
     // A text in a border stands in its middle, any other at the top.
     Alignment shownAlign() const { return BorderStyle ? Alignment::Centre : TextAlign; }
+    // The tool tip; that of a text which is cut off tells it whole.
+    const std::string& shownTip(bool cut) const { return cut ? Caption.get() : ToolTipText.get(); }
     bool wraps() const { return !AutoSize && !BorderStyle && !shrinksText; }
 
     std::string spoken() const override { return isShadow ? "" : Control::spoken(); }

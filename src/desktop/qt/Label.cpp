@@ -68,14 +68,14 @@ private:
                               (label_.BorderStyle ? Qt::AlignVCenter : Qt::AlignTop));
     }
 
-    // What the smallest size doesn't fit ends in dots, and is told whole by the tooltip.
+    // What the smallest size doesn't fit ends in dots.
     void shrinkText() {
         const QString whole = text(label_.Caption);
         const int width = widget_->contentsRect().width() - 2;
         widget_->setFont(fittingFont(label_.font(), whole, width));
         const QString shown = widget_->fontMetrics().elidedText(whole, Qt::ElideRight, width);
         widget_->setText(shown);
-        widget_->setToolTip(shown == whole ? text(label_.ToolTipText) : whole);
+        widget_->setToolTip(text(label_.shownTip(shown != whole)));
     }
 
     toolkit::Label& label_;

@@ -39,11 +39,10 @@ protected:
         repaint();
         showToolTip();
     }
-    // Of a text that is cut off it tells the whole.
     void showToolTip() override {
         const bool cut =
             label_.shrinksText && extent(wide(label_.Caption), shownFont(room())).cx > room();
-        toolTip_.show(handle(), cut ? label_.Caption : label_.ToolTipText);
+        toolTip_.show(handle(), label_.shownTip(cut));
     }
     RECT rectangle() const override;
 
