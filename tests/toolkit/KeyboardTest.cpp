@@ -108,6 +108,7 @@ TEST_F(KeyboardTest, AKeyComesToTheFormThenToTheControlThenDoesItsWork) {
 TEST_F(KeyboardTest, TheKeysOfAGridMoveItsRowByOneOrByWhatIsInView) {
     Page& form = page();
     form.grid.SetFocus();
+    EXPECT_THROW(form.grid.Row = 21, platform::RuntimeError);
     form.grid.Row = 0; // six rows high, and one of them is the header
     const std::pair<int, int> moves[]{{key::Up, 1},   {key::Down, 2},      {key::PageDown, 6},
                                       {key::End, 20}, {key::PageDown, 20}, {key::PageUp, 16},
