@@ -2,14 +2,14 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace platform {
 
-// The sides of an upright sheet.
+// The sides of an upright sheet, and its edges that the printer leaves white, in millimetres.
 struct Paper {
-    double width = 0, height = 0; // millimetres
+    double width = 0, height = 0;
+    double left = 0, top = 0, right = 0, bottom = 0;
 };
 
 // A printer as it was when it was asked for.
@@ -17,10 +17,9 @@ class PrintQueue {
 public:
     virtual ~PrintQueue() = default;
 
-    virtual std::string name() const = 0;
-
-    // The paper that the user has chosen for the printer; nothing where it is the printer's own.
-    virtual std::optional<Paper> paper() const = 0;
+    // The paper that the user has chosen for the printer, else the printer's own. Raises
+    // PrinterError if the printer has gone.
+    virtual Paper paper() const = 0;
     virtual bool landscape() const = 0;
 
     // Makes one job of the file, a whole document in a form that the system's printing takes, with

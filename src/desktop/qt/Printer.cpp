@@ -4,11 +4,12 @@
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QFontMetricsF>
+#include <QPageLayout>
 #include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
+#include <QPdfWriter>
 #include <QTemporaryFile>
 
 #include <memory>
@@ -27,21 +28,13 @@ std::unique_ptr<platform::PrintQueue> defaultPrinter() {
 
 // The page is laid out for the paper that the print server will take, else the server would scale
 // or turn it, and out to the printer's own margins.
-std::unique_ptr<QPrinter> open(const platform::PrintQueue& queue) {
-    const QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(queue.name()));
-    if (info.isNull()) // just removed: another one must not stand in for it
-        fail();
-    auto printer = std::make_unique<QPrinter>(info, QPrinter::HighResolution);
-    if (!printer->isValid() || printer->outputFormat() != QPrinter::NativeFormat)
-        fail();
-    const auto chosen = queue.paper();
-    printer->setPageSize(chosen ? QPageSize(QSizeF(chosen->width, chosen->height),
-                                            QPageSize::Millimeter, {}, QPageSize::FuzzyMatch)
-                                : info.defaultPageSize());
-    printer->setPageOrientation(queue.landscape() ? QPageLayout::Landscape : QPageLayout::Portrait);
-    printer->setFullPage(false);
-    printer->setPageMargins(printer->pageLayout().minimumMargins(), printer->pageLayout().units());
-    return printer;
+void layOut(QPdfWriter& page, const platform::PrintQueue& queue) {
+    const platform::Paper paper = queue.paper();
+    const QPageSize size(QSizeF(paper.width, paper.height), QPageSize::Millimeter, {},
+                         QPageSize::FuzzyMatch);
+    const QMarginsF margins(paper.left, paper.top, paper.right, paper.bottom);
+    page.setPageLayout({size, queue.landscape() ? QPageLayout::Landscape : QPageLayout::Portrait,
+                        margins, QPageLayout::Millimeter, margins});
 }
 
 // The printer's own font is the one that pages have by default.
@@ -53,18 +46,18 @@ QFont printed(toolkit::Font design) {
     return it;
 }
 
-void draw(QPrinter& printer, const std::vector<toolkit::PrintedText>& page) {
-    const double dotsPerTwip = printer.resolution() / toolkit::kTwipsPerInch;
+void draw(QPdfWriter& writer, const std::vector<toolkit::PrintedText>& page) {
+    const double dotsPerTwip = writer.resolution() / toolkit::kTwipsPerInch;
     QPainter painter;
-    if (!painter.begin(&printer))
+    if (!painter.begin(&writer))
         fail();
-    painter.setClipRect(QRect(0, 0, printer.width(), printer.height()));
+    painter.setClipRect(QRect(0, 0, writer.width(), writer.height()));
     for (const toolkit::PrintedText& line : page) {
         painter.setFont(printed(line.font));
         painter.setPen(colour(line.colour));
         painter.drawText(
             QPointF(line.left * dotsPerTwip,
-                    line.top * dotsPerTwip + QFontMetricsF(painter.font(), &printer).ascent()),
+                    line.top * dotsPerTwip + QFontMetricsF(painter.font(), &writer).ascent()),
             text(line.text));
     }
     if (!painter.end())
@@ -73,6 +66,8 @@ void draw(QPrinter& printer, const std::vector<toolkit::PrintedText>& page) {
 
 class Printer : public toolkit::PrinterDevice {
 public:
+    Printer() { defaultPrinter(); } // which must be there from the first line on
+
     double lineHeight(const toolkit::Font& font) override { return twips(metrics(font).height()); }
     double averageCharWidth(const toolkit::Font& font) override {
         return twips(metrics(font).averageCharWidth());
@@ -80,14 +75,13 @@ public:
     void print(const std::vector<toolkit::PrintedText>& page) override;
 
 private:
-    QFontMetricsF metrics(const toolkit::Font& font) const {
-        return {printed(font), printer_.get()};
-    }
+    QFontMetricsF metrics(const toolkit::Font& font) { return {printed(font), &measured_}; }
     double twips(double dots) const {
-        return dots * toolkit::kTwipsPerInch / printer_->resolution();
+        return dots * toolkit::kTwipsPerInch / measured_.resolution();
     }
 
-    std::unique_ptr<QPrinter> printer_ = open(*defaultPrinter());
+    QBuffer nowhere_;
+    QPdfWriter measured_{&nowhere_}; // what texts are measured for, and nothing is drawn on
 };
 
 // The page goes into a file first, and the file is handed over by ourselves: the drawing that
@@ -95,14 +89,14 @@ private:
 // another one since it was asked last.
 void Printer::print(const std::vector<toolkit::PrintedText>& page) {
     const auto queue = defaultPrinter();
-    printer_ = open(*queue);
     QTemporaryFile file;
     if (!file.open())
         fail();
-    printer_->setOutputFileName(file.fileName());
-    draw(*printer_, page);
+    QPdfWriter writer(&file);
+    layOut(writer, *queue);
+    draw(writer, page);
     // A full disk shows only here.
-    if (!file.readAll().trimmed().endsWith("%%EOF"))
+    if (!file.flush() || !file.seek(0) || !file.readAll().trimmed().endsWith("%%EOF"))
         fail();
     queue->print(QFile::encodeName(file.fileName()).toStdString(),
                  QCoreApplication::applicationName().toStdString());

@@ -7,6 +7,8 @@
 #include <cups/cups.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <optional>
 #include <string_view>
 
 namespace platform {
@@ -15,6 +17,8 @@ namespace {
 
 constexpr int kPatience = 5;           // seconds that the print server gets for each answer
 constexpr double kPerMillimetre = 100; // the print server's unit of paper
+constexpr int kSamePaper = 100;        // drivers round the sides of a paper to points
+constexpr Paper kA4{.width = 210, .height = 297};
 
 [[noreturn]] void fail() {
     throw RuntimeError(PrinterError);
@@ -46,8 +50,12 @@ public:
     decltype(&::cupsGetOption) getOption = find("cupsGetOption");
     decltype(&::cupsFreeDests) freeDests = find("cupsFreeDests");
     decltype(&::cupsPrintFile2) printFile = find("cupsPrintFile2");
-    decltype(&::pwgMediaForPWG) paper = find("pwgMediaForPWG");
-    decltype(&::pwgMediaForPPD) driverPaper = find("pwgMediaForPPD");
+    decltype(&::pwgMediaForPWG) mediaForPWG = find("pwgMediaForPWG");
+    decltype(&::pwgMediaForPPD) mediaForPPD = find("pwgMediaForPPD");
+    decltype(&::cupsCopyDestInfo) copyDestInfo = find("cupsCopyDestInfo");
+    decltype(&::cupsFreeDestInfo) freeDestInfo = find("cupsFreeDestInfo");
+    decltype(&::cupsGetDestMediaByName) getMediaByName = find("cupsGetDestMediaByName");
+    decltype(&::cupsGetDestMediaDefault) getMediaDefault = find("cupsGetDestMediaDefault");
 };
 
 const Cups& cups() {
@@ -69,22 +77,31 @@ public:
             fail();
     }
 
-    std::string name() const override {
-        std::string name = printer_->name;
-        if (printer_->instance)
-            name.append("/").append(printer_->instance);
-        return name;
-    }
-
-    std::optional<Paper> paper() const override {
-        std::string name(option("media").empty() ? option("PageSize") : option("media"));
-        name.resize(std::min(name.find(','), name.size())); // the rest names the tray
-        const pwg_media_t* paper = cups().paper(name.c_str());
-        if (!paper)
-            paper = cups().driverPaper(name.c_str());
-        if (!paper)
-            return std::nullopt;
-        return Paper{paper->width / kPerMillimetre, paper->length / kPerMillimetre};
+    Paper paper() const override {
+        const std::unique_ptr<cups_dinfo_t, Close> info(
+            cups().copyDestInfo(connection_.get(), printer_.get()));
+        if (!info)
+            fail();
+        const auto chosen = chosenPaper();
+        cups_size_t size{};
+        // The server answers with another paper that is like the one, too.
+        const auto found = [&](auto ask, auto... name) {
+            return ask(connection_.get(), printer_.get(), info.get(), name..., 0, &size) != 0 &&
+                   (!chosen || (std::abs(size.width - chosen->width) <= kSamePaper &&
+                                std::abs(size.length - chosen->length) <= kSamePaper));
+        };
+        const bool usual = found(cups().getMediaDefault);
+        if (!usual && !chosen)
+            return kA4;
+        if (!usual && !found(cups().getMediaByName, chosen->name.c_str()))
+            size = {}; // as far as is known, it is printed to its edges
+        if (chosen) {
+            size.width = chosen->width;
+            size.length = chosen->length;
+        }
+        const auto edge = [](int length) { return length / kPerMillimetre; };
+        return {edge(size.width), edge(size.length), edge(size.left),
+                edge(size.top),   edge(size.right),  edge(size.bottom)};
     }
 
     bool landscape() const override {
@@ -102,11 +119,29 @@ private:
     struct Close {
         void operator()(http_t* it) const { cups().close(it); }
         void operator()(cups_dest_t* it) const { cups().freeDests(1, it); }
+        void operator()(cups_dinfo_t* it) const { cups().freeDestInfo(it); }
     };
 
     std::string_view option(const char* name) const {
         const char* value = cups().getOption(name, printer_->num_options, printer_->options);
         return value ? value : "";
+    }
+
+    struct Media {
+        std::string name;
+        int width, length;
+    };
+
+    // The paper that the user has chosen; nothing where that is left to the printer.
+    std::optional<Media> chosenPaper() const {
+        std::string name(option("media").empty() ? option("PageSize") : option("media"));
+        name.resize(std::min(name.find(','), name.size())); // the rest names the tray
+        const pwg_media_t* media = cups().mediaForPWG(name.c_str());
+        if (!media)
+            media = cups().mediaForPPD(name.c_str());
+        if (!media)
+            return std::nullopt;
+        return Media{media->pwg, media->width, media->length}; // the next answer overwrites it
     }
 
     std::unique_ptr<http_t, Close> connection_{
