@@ -90,8 +90,8 @@ void FormWindow::moved() {
 }
 
 void FormWindow::showNewLook() {
-    lookChanged();
     forInner(handle(), [](Window& inner, HWND) { inner.lookChanged(); });
+    lookChanged(); // at last: the frame puts its bars where its edges are
     RedrawWindow(handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
