@@ -204,16 +204,21 @@ void MSFlexGridWindow::showRow() {
         scrollTo(axis, now + std::min(below, above));
 }
 
+// The shadow of buttons where it can be seen on the cells, else the colour of their texts.
+COLORREF lineColour() {
+    const auto of = [](int index) { return static_cast<toolkit::Colour>(GetSysColor(index)); };
+    return static_cast<COLORREF>(toolkit::seenBeside(of(COLOR_WINDOW), of(COLOR_BTNSHADOW),
+                                                     of(COLOR_WINDOWTEXT), toolkit::kNoticed));
+}
+
 void MSFlexGridWindow::paintCell(HDC dc, int row, int column, POINT place) {
     const bool header = row < grid_.FixedRows || column < grid_.FixedCols;
     const bool chosen = !header && row == grid_.row();
     RECT cell{place.x, place.y, place.x + size(columns(), column), place.y + size(rows(), row)};
     const int ground = header ? COLOR_BTNFACE : chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW;
     FillRect(dc, &cell, GetSysColorBrush(ground));
-    RECT line{cell.left, cell.bottom - 1, cell.right, cell.bottom};
-    FillRect(dc, &line, GetSysColorBrush(COLOR_BTNSHADOW));
-    line = {cell.right - 1, cell.top, cell.right, cell.bottom};
-    FillRect(dc, &line, GetSysColorBrush(COLOR_BTNSHADOW));
+    fill(dc, {cell.left, cell.bottom - 1, cell.right, cell.bottom}, lineColour());
+    fill(dc, {cell.right - 1, cell.top, cell.right, cell.bottom}, lineColour());
     SetTextColor(dc, GetSysColor(header   ? COLOR_BTNTEXT
                                  : chosen ? COLOR_HIGHLIGHTTEXT
                                           : COLOR_WINDOWTEXT));
