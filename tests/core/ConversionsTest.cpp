@@ -1,5 +1,6 @@
 #include "common/DateText.h"
 #include "common/NumberText.h"
+#include "platform/LocaleItems.h"
 #include "tests/support/FakeDesktop.h"
 #include "tests/support/FakePlatform.h"
 
@@ -51,7 +52,7 @@ TEST_F(Conversions, AmountsAreGroupedAndRoundedAwayFromZero) {
         "0.00 -749.50 -0.13 1.01 0.20 0.00 0.01 0.00 ");
     EXPECT_EQ(textsOf(FormatMoney, {123456.78, 999999.995, 12345678901234.56, 1e15}),
               "123,456.78 1,000,000.00 12,345,678,901,234.56 1,000,000,000,000,000.00 ");
-    items[15] = ".";
+    items[platform::LOCALE_STHOUSAND] = ".";
     EXPECT_EQ(FormatMoney(1234.5), "1.234.50");
 }
 
@@ -68,7 +69,7 @@ TEST_F(Conversions, NumbersAreReadWithSignSeparatorsAndExponent) {
               std::vector<double>({1000, 15e-8, 0, 0, kLargest}));
     const std::string half = "9007199254740993." + std::string(900, '0');
     EXPECT_EQ(read(half + "|" + half + "1"), std::vector({9007199254740992.0, 9007199254740994.0}));
-    std::swap(items[14], items[15]);
+    std::swap(items[platform::LOCALE_SDECIMAL], items[platform::LOCALE_STHOUSAND]);
     EXPECT_EQ(read("1.234,50|" + CStr(1.5e20)), std::vector({1234.5, 1.5e20}));
 }
 
@@ -99,8 +100,8 @@ TEST_F(Conversions, DatesFollowTheirPictures) {
     EXPECT_EQ(ShortDateTime({2024, 12, 31}), "12/31/2024 12:00:00 AM");
     EXPECT_EQ(ShortDateTime({2009, 9, 9, 12}), "9/9/2009 12:00:00 PM");
     EXPECT_EQ(ReadDate("9/9/2009 12:00:00 PM"), DateTime({2009, 9, 9, 12}));
-    items[42] = "Montag";
-    items[62] = "Juli";
+    items[platform::LOCALE_SDAYNAME1] = "Montag";
+    items[platform::LOCALE_SMONTHNAME1 + 6] = "Juli";
     EXPECT_EQ(FormatDate({2005, 7, 4, 18, 2, 7}, "dddd, dd. MMMM yy, H:m:s"),
               "Montag, 04. Juli 05, 18:2:7");
     EXPECT_EQ(FormatDate(kEvening, "yyyy'年'M'月' 'o''clock"), "2005年7月 o'clock");
@@ -114,16 +115,18 @@ TEST_F(Conversions, ADateIsReadInTheOrderOfItsLocale) {
         EXPECT_EQ(ReadDate(text), kEvening) << text;
     EXPECT_EQ(ReadDate("1/1/49")->year, 2049);
     EXPECT_EQ(ReadDate("1/1/50")->year, 1950);
-    items[31] = "d.MM.yyyy 'г.'";
+    items[platform::LOCALE_SSHORTDATE] = "d.MM.yyyy 'г.'";
     EXPECT_EQ(ReadDate(ShortDateTime(kEvening)), kEvening);
-    items[62] = "Juli";
-    items[74] = "Jul.";
+    items[platform::LOCALE_SMONTHNAME1 + 6] = "Juli";
+    items[platform::LOCALE_SABBREVMONTHNAME1 + 6] = "Jul.";
     for (const auto& text : betweenBars("05/07/05|5. Juli 2005|5 jul. 2005|Juli 5, 2005|5. Juli"))
         EXPECT_EQ(ReadDate(text), kDay) << text;
     EXPECT_EQ(ReadDate("5. Jul 2005 Juli"), std::nullopt);
-    items[31] = "dd.MM.yyyy"; // its day is no name of a day
-    items[32] = "d 'l’'MMMM";
-    items[43] = "Dienstag";
+    items[platform::LOCALE_SMONTHNAME1 + 11] = "Dezember";
+    EXPECT_EQ(ReadDate("31. Dezember 2005"), DateTime({2005, 12, 31}));
+    items[platform::LOCALE_SSHORTDATE] = "dd.MM.yyyy"; // its day is no name of a day
+    items[platform::LOCALE_SLONGDATE] = "d 'l’'MMMM";
+    items[platform::LOCALE_SDAYNAME1 + 1] = "Dienstag";
     for (const auto& text : betweenBars("05/07/2005|5 l’juli 2005|Dienstag, 5.7.2005"))
         EXPECT_EQ(ReadDate(text), kDay) << text;
 }
