@@ -115,8 +115,8 @@ def lines():
 def near(line, wanted):
     """Whether a line has the words wanted, and numbers within 2 % of those wanted."""
     pairs = list(itertools.zip_longest(line.split(" "), wanted.split(" "), fillvalue=""))
-    return all(one == other or (one + other).isdigit() and abs(int(one) / int(other) - 1) < 0.02
-               for one, other in pairs)
+    return all(one == other or one.isdigit() and other.isdigit()
+               and abs(int(one) / int(other) - 1) < 0.02 for one, other in pairs)
 
 
 class PrintOut(Road):
