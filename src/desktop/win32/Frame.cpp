@@ -25,6 +25,14 @@ protected:
             FillRect(reinterpret_cast<HDC>(wParam), &all, GetSysColorBrush(COLOR_BTNFACE));
             return TRUE;
         }
+        // A button inside it has its ground painted by it, and wants to go on in its own font.
+        case WM_PRINTCLIENT: {
+            HDC const dc = reinterpret_cast<HDC>(wParam);
+            const int before = SaveDC(dc);
+            const LRESULT result = ControlWindow::received(message, wParam, lParam);
+            RestoreDC(dc, before);
+            return result;
+        }
         // Its own answers would be those of a button to its parent's.
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORSTATIC:
