@@ -98,7 +98,8 @@ void FormWindow::showNewLook() {
 LRESULT FormWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_CLOSE: // unloading the form takes the window away
-        form_.Unload(toolkit::FormControlMenu);
+        if (IsWindowEnabled(GetAncestor(handle(), GA_ROOT))) // else a dialog or message is open
+            form_.Unload(toolkit::FormControlMenu);
         return 0;
     case WM_QUERYENDSESSION:
         return TRUE;

@@ -51,6 +51,8 @@ void handle(MSG& message) {
     const auto around = formWindowOf(message.hwnd);
     const bool used = around && toolkit::pressKey(around->form(), keyStroke(message, typed));
     const bool toMenu = around && !used && opensPageMenu(typed);
+    if (around && around->form().minimized)
+        message.hwnd = around->handle(); // no key may press what can't be seen
     if (toMenu)
         around->openMenu();
     if (used || toMenu) {
