@@ -24,7 +24,7 @@ std::vector<MSG> typedBy(const MSG& key) {
 
 bool isKey(const MSG& message) {
     return (message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN) &&
-           message.wParam != VK_PROCESSKEY && message.wParam != VK_PACKET; // those are no keys
+           message.wParam != VK_PROCESSKEY; // an input method has taken it
 }
 
 bool movesAmongPages(const std::shared_ptr<FormWindow>& around, MSG& message) {
@@ -40,8 +40,16 @@ bool opensPageMenu(const std::vector<MSG>& typed) {
     return !typed.empty() && typed.front().message == WM_SYSCHAR && typed.front().wParam == '-';
 }
 
+// What comes without a key: of a panel on the screen, as an input method has it.
+void compose(const MSG& packet) {
+    for (const MSG& character : typedBy(packet))
+        SendMessageW(character.hwnd, WM_IME_CHAR, character.wParam, character.lParam);
+}
+
 // Every key goes to the form first, then to the frame, then to the window that has the focus.
 void handle(MSG& message) {
+    if (message.message == WM_KEYDOWN && message.wParam == VK_PACKET)
+        return compose(message);
     if (!isKey(message)) {
         TranslateMessage(&message);
         DispatchMessageW(&message);

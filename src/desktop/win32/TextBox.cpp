@@ -1,6 +1,8 @@
 #include "desktop/win32/ControlWindow.h"
 #include "toolkit/Keyboard.h"
 
+#include <utility>
+
 namespace desktop_win32 {
 
 namespace {
@@ -41,11 +43,9 @@ public:
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override {
-        // What an input method composes comes without keys.
         if (message == WM_IME_CHAR) {
-            const std::wstring typed(1, static_cast<wchar_t>(wParam));
-            if (wide(toolkit::typeText(box_, narrow(typed))) != typed || gone())
-                return 0;
+            compose(static_cast<wchar_t>(wParam), lParam);
+            return 0;
         }
         // The menu of the right button reads the selection, which may come with the focus.
         if (message == WM_RBUTTONDOWN && GetFocus() != handle()) {
@@ -72,6 +72,22 @@ protected:
     }
 
 private:
+    // What an input method or a panel on the screen composes comes without keys, and a character
+    // beyond the first 65536 in two parts.
+    void compose(wchar_t part, LPARAM lParam) {
+        composed_ += part;
+        if (IS_HIGH_SURROGATE(part))
+            return;
+        const std::wstring typed = std::exchange(composed_, {});
+        if (wide(toolkit::typeText(box_, narrow(typed))) != typed)
+            return;
+        for (const wchar_t typedPart : typed)
+            if (!gone())
+                byDefault(WM_CHAR, typedPart, lParam);
+        if (!gone())
+            takeSelection();
+    }
+
     void showText() {
         showing_ = true; // bytes that are no character stay as they are in the box's own text
         SetWindowTextW(handle(), wide(box_.Text).c_str());
@@ -99,6 +115,7 @@ private:
     }
 
     toolkit::TextBox& box_;
+    std::wstring composed_;   // of a character in two parts, the first
     DWORD from_ = 0, to_ = 0; // the selection that was taken over last
     bool showing_ = false;
 };
