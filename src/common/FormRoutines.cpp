@@ -31,7 +31,7 @@ void SelectAllText() {
 
 void SetStatBarText(toolkit::StatusBar& statusBar, int panel, const std::string& text) {
     trapped("maincode_zw.SetStatBarText",
-            [&](auto step) { step([&] { statusBar.Panels(panel) = text; }); });
+            [&](auto step) { step([&] { statusBar.Panels(panel).Text = text; }); });
 }
 
 } // namespace quorvanta

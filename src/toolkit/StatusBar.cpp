@@ -4,7 +4,7 @@
 
 namespace toolkit {
 
-Property<std::string>& StatusBar::Panels(int index) {
+StatusBar::Panel& StatusBar::Panels(int index) {
     if (index != 1)
         throw platform::RuntimeError(platform::SubscriptOutOfRange);
     return panel_;

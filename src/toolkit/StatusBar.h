@@ -9,13 +9,18 @@ class StatusBar : public Control {
 public:
     using Control::Control;
 
-    // The panel's text. Panels count from 1; there is one. Raises SubscriptOutOfRange.
-    Property<std::string>& Panels(int index);
+    struct Panel {
+        Property<std::string> Text;
+    };
+    // Panels count from 1; there is one. Raises SubscriptOutOfRange.
+    Panel& Panels(int index);
 
-    std::string spoken() const override { return panel_.get().empty() ? "Status" : panel_.get(); }
+    std::string spoken() const override {
+        return panel_.Text.get().empty() ? "Status" : panel_.Text.get();
+    }
 
 private:
-    Property<std::string> panel_{*this, Prop::Text};
+    Panel panel_{{*this, Prop::Text}};
 };
 
 } // namespace toolkit

@@ -116,7 +116,7 @@ TYPED_TEST(ListPagesTest, OnlyYesDeletesAndShiftModeSwapsTwoFilledRowsAndEnds) {
         EXPECT_EQ(boxes, c.boxes);
         EXPECT_EQ(tell(this->rows), c.after); // stored before the page is closed
         EXPECT_EQ(page.grd1.row(), here ? c.current : c.currentFavorites);
-        EXPECT_EQ(page.statBar1.Panels(1).get(), c.shiftMode ? "Shift mode" : "");
+        EXPECT_EQ(page.statBar1.Panels(1).Text.get(), c.shiftMode ? "Shift mode" : "");
         EXPECT_EQ(page.grd1.text(0, 1) + page.grd1.text(4, 0), "# 14.");
         page.Unload();
     }

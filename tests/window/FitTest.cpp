@@ -112,7 +112,7 @@ TEST(Fit, NoTextIsCutOffAndNothingIsMirrored) {
         frmCustomize6::the().cmdKey(n).FontBold = true;
         frmFavorites::the().cmdKey(n).FontBold = true;
     }
-    frmCustomize6::the().statBar1.Panels(1) = "Shift mode";
+    frmCustomize6::the().statBar1.Panels(1).Text = "Shift mode";
     checkWindow(MDIForm1::the());
     tests::dropForms();
 }

@@ -29,7 +29,7 @@ public:
 
 private:
     void showText() {
-        panel_->setText(text(bar_.Panels(1)));
+        panel_->setText(text(bar_.Panels(1).Text));
         panel_->setAccessibleName(text(bar_.spoken()));
     }
 

@@ -27,7 +27,7 @@ public:
 private:
     void showText() {
         SendMessageW(handle(), SB_SETTEXTW, 0,
-                     reinterpret_cast<LPARAM>(wide(bar_.Panels(1)).c_str()));
+                     reinterpret_cast<LPARAM>(wide(bar_.Panels(1).Text).c_str()));
     }
 
     toolkit::StatusBar& bar_;
