@@ -76,14 +76,15 @@ void raiseError(DWORD error, const std::string& path) {
     throw RuntimeError(failureOf(error, path));
 }
 
-Handle Handle::open(const std::string& path, DWORD access, DWORD disposition) {
+Handle Handle::open(const std::string& path, DWORD access, DWORD disposition, bool patient) {
     Handle opened;
-    const bool done = patiently([&] {
+    const auto tryOnce = [&] {
         opened = Handle(CreateFileW(wide(path).c_str(), access,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                     disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
         return bool(opened);
-    });
+    };
+    const bool done = patiently(tryOnce, patient);
     if (!done)
         raiseError(GetLastError(), path);
     if (GetFileType(opened.get()) != FILE_TYPE_DISK)

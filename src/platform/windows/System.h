@@ -35,8 +35,9 @@ public:
     ~Handle() { close(); }
 
     // Raises the failure. Anything but a file of a disk is a PathAccess failure: reading a device
-    // might never end.
-    static Handle open(const std::string& path, DWORD access, DWORD disposition);
+    // might never end. A file that someone has open is waited for, where `patient`.
+    static Handle open(const std::string& path, DWORD access, DWORD disposition,
+                       bool patient = true);
 
     explicit operator bool() const { return it_ != INVALID_HANDLE_VALUE; }
     HANDLE get() const { return it_; }
@@ -55,9 +56,9 @@ private:
 // Repeats `call` while it fails because someone has the file open: scanners for viruses and for
 // searches look into each new file, for a moment. The error is set after a failure.
 template <class Call>
-bool patiently(Call call) {
+bool patiently(Call call, bool patient = true) {
     constexpr DWORD kPause = 20; // milliseconds
-    for (int tries = 0;; ++tries) {
+    for (int tries = patient ? 0 : 25;; ++tries) {
         if (call())
             return true;
         const DWORD error = GetLastError();

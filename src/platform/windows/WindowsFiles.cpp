@@ -5,7 +5,7 @@
 #include "platform/windows/System.h"
 #include "platform/windows/WindowsReplacement.h"
 
-#include <array>
+#include <utility>
 
 namespace platform {
 
@@ -15,8 +15,8 @@ constexpr std::size_t kLongestPath = 32768;
 
 class WindowsBytes : public Bytes {
 public:
-    WindowsBytes(const std::string& path, DWORD access, DWORD disposition)
-        : path_(path), file_(Handle::open(path, access, disposition)) {}
+    WindowsBytes(const std::string& path, DWORD access, DWORD disposition, bool patient = true)
+        : path_(path), file_(Handle::open(path, access, disposition, patient)) {}
 
     std::size_t read(char* to, std::size_t size) override {
         DWORD count = 0;
@@ -99,7 +99,10 @@ std::unique_ptr<InputFile> WindowsFiles::openForInput(const std::string& path) {
 }
 
 std::unique_ptr<OutputFile> WindowsFiles::openForAppend(const std::string& path) {
-    return writeLines(std::make_unique<WindowsBytes>(path, FILE_APPEND_DATA, OPEN_ALWAYS));
+    const bool patient = std::exchange(appends_, false);
+    auto file = std::make_unique<WindowsBytes>(path, FILE_APPEND_DATA, OPEN_ALWAYS, patient);
+    appends_ = true;
+    return writeLines(std::move(file));
 }
 
 std::unique_ptr<Replacement> WindowsFiles::replace(const std::string& path,

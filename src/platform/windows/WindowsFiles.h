@@ -18,11 +18,16 @@ public:
     std::unique_ptr<InputFile> openForInput(const std::string& path) override;
 
     // What is written reaches the file at close(), and is left to the system to force to the disk.
+    // Behind a call that failed the next one doesn't wait: a start writes dozens of records, which
+    // in a folder that may not be written would hold the splash back for many seconds.
     std::unique_ptr<OutputFile> openForAppend(const std::string& path) override;
 
     // Beside the file stand, for moments, "<path>.spare" and "<path>.new".
     std::unique_ptr<Replacement> replace(const std::string& path,
                                          const std::string& backup) override;
+
+private:
+    bool appends_ = true; // the last call of openForAppend didn't fail
 };
 
 } // namespace platform
