@@ -1,4 +1,5 @@
-"""Takes the pictures of the tour and writes its text. Argument: the directory docs."""
+"""Takes the pictures of the tour and writes its text, on Windows one picture alone. Argument: the
+directory docs."""
 
 import os
 import subprocess
@@ -6,7 +7,7 @@ import sys
 import textwrap
 import time
 
-from desk import Program, Road, click, keys, until, xdotool
+from desk import SYSTEM, Program, Road, click, keys, until, xdotool
 
 DOCS = sys.argv[1]
 TEXT = ["""# A tour of Quorvanta
@@ -48,6 +49,17 @@ Road.write_data(
     "", "[StammNumbers]", row(1, 3, 7, 12, 25, 33, 41, 48), row(2, 8, 11, 19, 23, 29, 34, 40, 46),
     "[Favorites]", row(1, 5, 9, 14, 22, 36, 44), row(2, 1, 13), row(3, 7, 17, 27, 37),
     "[Win/Loss]", "Win:1250.5", "Loss:980", "Bal:270.5", "Large:500", "Date:7/25/2005")
+
+if SYSTEM == "windows":
+    program = Program()
+    program.tool("Customize Six")
+    page = program.page("Customize 6")
+    click(page.cell(2))
+    page.press("Jackpot Generator")
+    until(lambda: len(page.drawn()) == 6, "a draw")
+    stop("windows", "On Windows", "", program.frame())
+    program.end_session()
+    sys.exit()
 
 program = Program(leave_splash=False)
 stop("splash", "The start", "The splash stands for three and a half seconds; a key leaves it at "
@@ -117,5 +129,12 @@ stop("dark", "In a dark theme", "All but the boards follows the colours of the d
      program.frame())
 program.end_session()
 
+TEXT.append("""
+## On Windows
+
+The same program in the controls of Windows, here under Wine.
+
+![On Windows](tour/windows.png)
+""")
 with open(DOCS + "/tour.md", "w", encoding="utf-8") as file:
     file.write("".join(TEXT))
