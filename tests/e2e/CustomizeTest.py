@@ -54,6 +54,10 @@ class Customize(Road):
         keys("F5")  # the page opens with row 1
         until(lambda: len(page.drawn()) == 6, "a draw from row 1")
         self.assertEqual(page.pool(), PICKS)
+        xdotool("key", "--delay", 0, *["F5"] * 9, "Escape")  # a draw that yields meets the last
+        until(lambda: not program.pages(), "the page's end under its draws")
+        program.tool("Customize Six")
+        self.assertEqual(program.page("Customize 6").row(1), list(map(str, PICKS)))
 
     def test_rows_are_deleted_after_yes_alone_and_shift_mode_ends_on_the_page_only(self):
         rows = [row(r, r, 11, 12, 13, 14, 15, 16) for r in range(1, 4)]
