@@ -71,8 +71,8 @@ std::string helpPage(std::string_view html) {
         }
         const std::size_t begin = page.find('>', at) + 1;
         const std::string title = withoutTags(page.substr(begin, page.find("</h", begin) - begin));
-        links +=
-            "<a class=\"h" + page.substr(at + 2, 1) + "\" href=\"#" + id + "\">" + title + "</a>\n";
+        links.append("<a class=\"h").append(page, at + 2, 1);
+        links.append("\" href=\"#").append(id).append("\">").append(title).append("</a>\n");
     }
     const std::size_t body = page.find("<body");
     page.insert(body == kNowhere ? 0 : page.find('>', body) + 1,

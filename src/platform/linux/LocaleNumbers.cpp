@@ -54,7 +54,7 @@ std::string LocaleMoney::ofCurrency(std::initializer_list<int> places) const {
 
 // Some currencies have a pattern and separators of their own in a locale.
 std::string LocaleMoney::pattern() const {
-    const std::string own = ofCurrency({2, 0});
+    std::string own = ofCurrency({2, 0});
     if (!own.empty())
         return own;
     // Only Americans write negative amounts in parentheses.
