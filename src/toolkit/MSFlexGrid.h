@@ -47,6 +47,7 @@ public:
     Accessor<MSFlexGrid, int, &MSFlexGrid::cols, &MSFlexGrid::setCols> Cols{*this};
     Property<int> FixedRows{*this, Prop::Rows, 1};
     Property<int> FixedCols{*this, Prop::Rows, 1};
+    bool isHeader(int row, int column) const { return row < FixedRows || column < FixedCols; }
 
     // The current row, 1 at first. Row 0, the header, means that no row is chosen. Setting it makes
     // RowSel, the end of the selection, the same. Raises InvalidCall for a row that isn't there.

@@ -28,7 +28,7 @@ Cell cellOf(const toolkit::MSFlexGrid& grid, const VARIANT& child) {
 }
 
 bool isHeader(const toolkit::MSFlexGrid& grid, Cell cell) {
-    return cell.row < grid.FixedRows || cell.column < grid.FixedCols;
+    return grid.isHeader(cell.row, cell.column);
 }
 
 bool isSeen(const GridWindow& window, Cell cell) {

@@ -95,8 +95,7 @@ private:
     // The row of a data cell, 0 for a header cell, -1 for none.
     int rowAt(LPARAM place) const {
         const auto [row, column] = cellAt({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
-        const bool header = row < grid_.FixedRows || column < grid_.FixedCols;
-        return row < 0 || column < 0 ? -1 : header ? 0 : row;
+        return row < 0 || column < 0 ? -1 : grid_.isHeader(row, column) ? 0 : row;
     }
 
     void showBars();
@@ -167,16 +166,12 @@ void MSFlexGridWindow::scroll(const Axis& axis, WORD how) {
     int to = info.nPos;
     switch (how) {
     case SB_LINEUP:
-        to -= line;
-        break;
     case SB_LINEDOWN:
-        to += line;
+        to += how == SB_LINEDOWN ? line : -line;
         break;
     case SB_PAGEUP:
-        to -= page;
-        break;
     case SB_PAGEDOWN:
-        to += page;
+        to += how == SB_PAGEDOWN ? page : -page;
         break;
     case SB_THUMBTRACK:
     case SB_THUMBPOSITION:
@@ -212,7 +207,7 @@ COLORREF lineColour() {
 }
 
 void MSFlexGridWindow::paintCell(HDC dc, int row, int column, POINT place) {
-    const bool header = row < grid_.FixedRows || column < grid_.FixedCols;
+    const bool header = grid_.isHeader(row, column);
     const bool chosen = !header && row == grid_.row();
     RECT cell{place.x, place.y, place.x + size(columns(), column), place.y + size(rows(), row)};
     const int ground = header ? COLOR_BTNFACE : chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW;
@@ -262,10 +257,8 @@ void MSFlexGridWindow::press(UINT message, LPARAM place) {
 LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_HSCROLL:
-        scroll(columns(), LOWORD(wParam));
-        return 0;
     case WM_VSCROLL:
-        scroll(rows(), LOWORD(wParam));
+        scroll(message == WM_HSCROLL ? columns() : rows(), LOWORD(wParam));
         return 0;
     case WM_MOUSEWHEEL:
         for (int i = 0; i < 3; ++i)
@@ -286,12 +279,10 @@ LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
         showBars();
         break;
     case WM_LBUTTONDOWN:
-        if (enter())
-            press(message, lParam);
-        return 0;
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK:
-        press(message, lParam);
+        if (message != WM_LBUTTONDOWN || enter())
+            press(message, lParam);
         return 0;
     default:
         break;
