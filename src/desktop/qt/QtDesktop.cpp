@@ -1,9 +1,9 @@
 #include "desktop/qt/QtDesktop.h"
 
+#include "desktop/help/HelpViewer.h"
 #include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/FormWindow.h"
-#include "desktop/qt/HelpViewer.h"
 #include "desktop/qt/Keys.h"
 #include "desktop/qt/Printer.h"
 #include "desktop/qt/Style.h"
@@ -176,7 +176,7 @@ bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned comma
         return false;
     application();
     const FormPeer* const owner = peerOf(toolkit::Forms.withWindow(window));
-    showHelp(owner ? owner->window() : nullptr, QString::fromUtf8(file));
+    desktop_help::showHelp(owner ? owner->window() : nullptr, QString::fromUtf8(file));
     return true;
 }
 

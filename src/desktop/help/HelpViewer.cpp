@@ -1,4 +1,4 @@
-#include "desktop/qt/HelpViewer.h"
+#include "desktop/help/HelpViewer.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
@@ -22,7 +22,7 @@
 
 #include <algorithm>
 
-namespace desktop_qt {
+namespace desktop_help {
 
 namespace {
 
@@ -270,4 +270,4 @@ void showHelp(QWidget* owner, const QString& file) {
     viewer->activateWindow();
 }
 
-} // namespace desktop_qt
+} // namespace desktop_help

@@ -4,11 +4,11 @@
 class QString;
 class QWidget;
 
-namespace desktop_qt {
+namespace desktop_help {
 
 // Shows `file`, an HTML text in UTF-8, in the one help window, or brings that window to the front.
 // It doesn't block the program's other windows, and closes with the window that `owner` stands in.
 // A file that can't be read is reported on the page, with its path and the reason.
 void showHelp(QWidget* owner, const QString& file);
 
-} // namespace desktop_qt
+} // namespace desktop_help
