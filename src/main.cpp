@@ -11,7 +11,7 @@ int main() {
     desktop->sessionEnds = quorvanta::EndRunForSystem;
     desktop->displayEnds = quorvanta::EndRunWithoutDisplay;
     toolkit::install(desktop.get());
-    const platform::Platform all = platform::makePlatform(desktop->helpViewer());
+    static const platform::Platform all = platform::makePlatform(desktop->helpViewer());
     platform::install(&all);
     try {
         toolkit::App.Path = all.files.programDirectory();

@@ -18,6 +18,10 @@ public:
     // whatever runs, so that it may do no more than wake the event loop.
     virtual void whenAskedToEnd(std::function<void()> wanted) = 0;
 
+    // Has `ended` called when the display goes that this process has opened by now. The call comes
+    // on the present thread, in the midst of whatever runs, and the process ends behind it.
+    virtual void whenDisplayEnds(std::function<void()> ended) = 0;
+
     // Ends the process at once. Nothing after this call runs.
     [[noreturn]] virtual void end() = 0;
 };

@@ -31,6 +31,7 @@ inline int numberOf(const std::function<void()>& operation) {
 struct FakeProcess : platform::Process {
     bool prevInstance(const std::string& /*directory*/) override { return false; }
     void whenAskedToEnd(std::function<void()> /*wanted*/) override {}
+    void whenDisplayEnds(std::function<void()> /*ended*/) override {}
     [[noreturn]] void end() override { throw ProcessEnded{}; }
 };
 

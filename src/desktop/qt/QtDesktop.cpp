@@ -7,6 +7,7 @@
 #include "desktop/qt/Keys.h"
 #include "desktop/qt/Printer.h"
 #include "desktop/qt/Style.h"
+#include "platform/Platform.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -49,6 +50,7 @@ bool comesLate(const QMouseEvent& press) {
 } // namespace
 
 QtDesktop::QtDesktop() = default;
+QtDesktop::~QtDesktop() = default;
 
 QApplication& QtDesktop::application() {
     if (application_)
@@ -73,7 +75,7 @@ QApplication& QtDesktop::application() {
             toolkit::Screen.focusMoved(*control);
         }
     });
-    watchDisplay();
+    platform::current().process.whenDisplayEnds(displayEnds);
     return *application_;
 }
 

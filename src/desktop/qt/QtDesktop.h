@@ -50,7 +50,6 @@ protected:
 
 private:
     QApplication& application();
-    void watchDisplay();
     void showFocusOn(const toolkit::Control* control);
     FrameWindow* frame() const;
     Qt::WindowModality modality() const;

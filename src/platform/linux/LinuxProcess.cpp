@@ -1,5 +1,7 @@
 #include "platform/linux/LinuxProcess.h"
 
+#include "platform/linux/DisplayEnd.h"
+
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
@@ -70,6 +72,10 @@ void LinuxProcess::whenAskedToEnd(std::function<void()> wanted) {
         if (sigaction(number, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
             sigaction(number, &action, nullptr);
     }
+}
+
+void LinuxProcess::whenDisplayEnds(std::function<void()> ended) {
+    watchDisplay(std::move(ended));
 }
 
 } // namespace platform

@@ -14,6 +14,7 @@ public:
 
     // SIGTERM, SIGINT and SIGHUP are such requests.
     void whenAskedToEnd(std::function<void()> wanted) override;
+    void whenDisplayEnds(std::function<void()> ended) override;
     [[noreturn]] void end() override;
 };
 

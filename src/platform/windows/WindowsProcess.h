@@ -13,6 +13,9 @@ public:
     // be heard here.
     void whenAskedToEnd(std::function<void()> /*wanted*/) override {}
 
+    // Here a display doesn't go without its user's session.
+    void whenDisplayEnds(std::function<void()> /*ended*/) override {}
+
     [[noreturn]] void end() override;
 };
 

@@ -1,12 +1,7 @@
-// How the event loop runs and ends, and what ends it from outside.
-#include "desktop/qt/QtDesktop.h"
-#include "toolkit/Form.h"
-
-#include <QApplication>
-#include <QSocketNotifier>
-#include <QTimer>
+#include "platform/linux/DisplayEnd.h"
 
 #include <cstdlib>
+#include <utility>
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -14,11 +9,16 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+namespace platform {
+
 namespace {
 
 constexpr unsigned kLastMoments = 10; // seconds
 
 pid_t displayUser = 0; // the process that has the windows; 0 without any
+
+// Never given up, as it may be called behind the end of main.
+auto& displayEnded = *new std::function<void()>;
 
 // A child that could not start another program isn't meant.
 void tellDisplayEnds() {
@@ -31,7 +31,7 @@ void tellDisplayEnds() {
         for (unsigned left = kLastMoments; left > 0;)
             left = ::sleep(left);
     else if (!std::exchange(told, true))
-        toolkit::desktop().displayEnds();
+        displayEnded();
 }
 
 // The library of session management would end the process with a manager that is killed, which is
@@ -54,60 +54,25 @@ void outliveSessionManager() {
 
 } // namespace
 
-// Where the display goes, Qt's part for X11 calls exit, that for Wayland _exit, and neither tells
-// the program before. The libraries find these two first.
-extern "C" {
-void exit(int status) noexcept {
-    tellDisplayEnds();
-    reinterpret_cast<void (*)(int)>(::dlsym(RTLD_NEXT, "exit"))(status);
-    std::abort();
-}
-void _exit(int status) {
-    tellDisplayEnds();
-    ::syscall(SYS_exit_group, status); // also in a child, which can't look anything up
-    std::abort();
-}
-}
-
-namespace desktop_qt {
-
-int QtDesktop::run() {
-    if (toolkit::Forms.Count() == 0)
-        return 0;
-    return QApplication::exec();
-}
-
-void QtDesktop::endLoop() {
-    // Queued, since the event that runs may show another form.
-    QTimer::singleShot(0, this, [] {
-        if (toolkit::Forms.Count() == 0)
-            QCoreApplication::exit();
-    });
-}
-
-std::function<void()> QtDesktop::waker(std::function<void()> event) {
-    application();
-    const int calls = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    auto* const notifier = new QSocketNotifier(calls, QSocketNotifier::Read, this);
-    // Once is enough, also while what `event` does runs an event loop of its own.
-    connect(notifier, &QSocketNotifier::activated, this, [notifier, event = std::move(event)] {
-        notifier->setEnabled(false);
-        event();
-    });
-    return [calls] { ::eventfd_write(calls, 1); };
-}
-
-QtDesktop::~QtDesktop() {
-    displayUser = 0;
-}
-
-void QtDesktop::watchDisplay() {
+void watchDisplay(std::function<void()> ended) {
+    displayEnded = std::move(ended);
     displayUser = ::getpid();
     outliveSessionManager();
 }
 
-} // namespace desktop_qt
+} // namespace platform
 
-std::unique_ptr<desktop::SystemDesktop> desktop::makeDesktop() {
-    return std::make_unique<desktop_qt::QtDesktop>();
+// Where the display goes, Qt's part for X11 calls exit, that for Wayland _exit, and neither tells
+// the program before. The libraries find these two first.
+extern "C" {
+void exit(int status) noexcept {
+    platform::tellDisplayEnds();
+    reinterpret_cast<void (*)(int)>(::dlsym(RTLD_NEXT, "exit"))(status);
+    std::abort();
+}
+void _exit(int status) {
+    platform::tellDisplayEnds();
+    ::syscall(SYS_exit_group, status); // also in a child, which can't look anything up
+    std::abort();
+}
 }
