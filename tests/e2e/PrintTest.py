@@ -157,18 +157,18 @@ class PrintOut(Road):
         self.addCleanup(server.wait)
         self.addCleanup(output, *AS_ROOT, "kill", server.pid)
         add_printer()
-        if SYSTEM == "windows":  # Wine looks for printers when a program starts
+        if SYSTEM == "windows":  # Wine looks for printers at a run's first print
             program.end_session()
             program.process.wait(10)
             start()
-        system.hold_printer("PDF", True)
+        output("cupsreject", "PDF")
         choose_print()
         program.box()
-        output("cupsreject", "PDF")
-        system.hold_printer("PDF", False)
+        system.hold_printer("PDF", True)
+        output("cupsaccept", "PDF")
         answer("Retry")
         program.box()
-        output("cupsaccept", "PDF")
+        system.hold_printer("PDF", False)
         answer("Retry")
         self.assertEqual([wanted if near(line, wanted) else line for line, wanted
                           in itertools.zip_longest(lines(), PAGE, fillvalue="")], PAGE)

@@ -6,6 +6,7 @@
 #include <winspool.h>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <type_traits>
 #include <vector>
@@ -29,14 +30,26 @@ struct Closing {
     }
 };
 using Context = std::unique_ptr<std::remove_pointer_t<HDC>, Closing<DeleteDC>>;
-using Queue = std::unique_ptr<std::remove_pointer_t<HANDLE>, Closing<ClosePrinter>>;
 using FontHandle = std::unique_ptr<std::remove_pointer_t<HFONT>, Closing<DeleteObject>>;
 
+// A call of the spooler, whose library is loaded at the first print: with it come 4 MB of CUPS
+// under Wine. A file of that name beside the program is none of it.
+template <class Call>
+Call* ofSpooler(const char* name) {
+    static HMODULE const library =
+        LoadLibraryExW(L"winspool.drv", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    FARPROC const call = library ? GetProcAddress(library, name) : nullptr;
+    if (!call)
+        fail();
+    return std::bit_cast<Call*>(call);
+}
+
 std::wstring defaultPrinter() {
+    const auto ask = ofSpooler<decltype(GetDefaultPrinterW)>("GetDefaultPrinterW");
     DWORD size = 0;
-    GetDefaultPrinterW(nullptr, &size);
+    ask(nullptr, &size);
     std::wstring name(size, L'\0');
-    if (size == 0 || !GetDefaultPrinterW(name.data(), &size))
+    if (size == 0 || !ask(name.data(), &size))
         fail();
     name.resize(size - 1);
     return name;
@@ -44,15 +57,18 @@ std::wstring defaultPrinter() {
 
 // The system would keep the job of a printer that is stopped or away.
 bool takesPages(const std::wstring& name) {
+    const auto open = ofSpooler<decltype(OpenPrinterW)>("OpenPrinterW");
+    const auto close = ofSpooler<decltype(ClosePrinter)>("ClosePrinter");
+    const auto ask = ofSpooler<decltype(GetPrinterW)>("GetPrinterW");
     HANDLE opened = nullptr;
-    if (!OpenPrinterW(const_cast<wchar_t*>(name.c_str()), &opened, nullptr)) // it isn't changed
+    if (!open(const_cast<wchar_t*>(name.c_str()), &opened, nullptr)) // it isn't changed
         return false;
-    const Queue queue(opened);
+    const std::unique_ptr<void, decltype(close)> queue(opened, close);
     DWORD size = 0;
-    GetPrinterW(opened, 2, nullptr, 0, &size);
+    ask(opened, 2, nullptr, 0, &size);
     // In units of its strictest member.
     std::vector<PRINTER_INFO_2W> room(size / sizeof(PRINTER_INFO_2W) + 1);
-    if (!GetPrinterW(opened, 2, reinterpret_cast<BYTE*>(room.data()), size, &size))
+    if (!ask(opened, 2, reinterpret_cast<BYTE*>(room.data()), size, &size))
         return false;
     constexpr DWORD kAway = PRINTER_STATUS_PAUSED | PRINTER_STATUS_ERROR | PRINTER_STATUS_OFFLINE |
                             PRINTER_STATUS_NOT_AVAILABLE | PRINTER_STATUS_PENDING_DELETION;
