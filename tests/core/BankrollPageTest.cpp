@@ -126,8 +126,9 @@ TEST_F(BankrollPageTest, AWrongTextHoldsUpWhatTakesTheFocusButNotTheEnd) {
 }
 
 TEST_F(BankrollPageTest, TheCalculatorIsTheFirstOfTheFirstDirectoryAndTheButtonHiddenWithoutOne) {
-    gstrWinDirectory = "/windows";
-    gstrWinSysDirectory = "/system";
+    os.machine.windows = "/windows";
+    os.machine.system = "/system";
+    Main();
     EXPECT_FALSE(open().cmdCalc.Visible);
     for (const char* const file : {"/system/sums", "/windows/abacus", "/windows/sums"}) {
         frmBankroll::the().Unload();

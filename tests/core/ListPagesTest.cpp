@@ -126,6 +126,8 @@ TEST_F(ProgramTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
     auto& grid = open<frmFavorites>().grd1;
     EXPECT_EQ(std::pair(grid.Width.get(), grid.Height.get()),
               std::pair(6 * 480 + 960 + 150.0, 11 * 240 + 100.0));
+    for (int c = 1; c <= 6; ++c)
+        EXPECT_EQ(grid.ColWidth(c), 480);
     EXPECT_EQ(grid.text(0, 0) + grid.text(0, 6) + grid.text(10, 0), "Favorites# 610.");
     cFlexGrid rows;
     rows.prpGrid.Set(grid.ref());

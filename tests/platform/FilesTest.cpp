@@ -8,24 +8,6 @@ using tests::Texts;
 
 struct Files : testing::Test, tests::FilesTest {};
 
-TEST_F(Files, LineEndsAtCarriageReturnAlone) {
-    const std::string zero("a\0b", 3), buffer(65535, 'x'), longLine(1 << 20, 'y');
-    const auto lines = [&](const std::string& text) {
-        files.create("text", text);
-        Texts result;
-        std::string line;
-        for (auto file = files.openForInput(files.path("text")); file->readLine(line);)
-            result.push_back(line);
-        return result;
-    };
-    EXPECT_EQ(lines(""), Texts());
-    EXPECT_EQ(lines("a\r\nb\rc"), Texts({"a", "b", "c"}));
-    EXPECT_EQ(lines("\n\r\n\n\r\r\n"), Texts({"\n", "\n", ""}));
-    EXPECT_EQ(lines(zero + "\r"), Texts({zero}));
-    EXPECT_EQ(lines(buffer + "\r\nb"), Texts({buffer, "b"})) << "split between two reads";
-    EXPECT_EQ(lines(longLine + "\r\n" + longLine), Texts({longLine, longLine}));
-}
-
 TEST_F(Files, FailureHasTheNumberThatItsCauseTells) {
     tests::fs::create_directory(files.own("directory"));
     files.create("file", "");
