@@ -97,6 +97,10 @@ class Node:
         return [node for node in parts + list(map(Node, facts["children"]))
                 if every or node.has("SHOWING")]
 
+    def act(self):
+        """What a click does, without a mouse."""
+        ask(f"press {self.window}")
+
     def width(self):
         """Of a row of a grid, with its header."""
         return next(number for number, part in enumerate(self.facts["parts"])

@@ -2,6 +2,7 @@
 //   windows PROGRAM     the numbers of the visible windows of a program file
 //   describe NUMBER     one window; null if it has gone
 //   end NUMBER          tells the windows of the window's thread that the session ends
+//   press NUMBER        presses a button as readers do, without the mouse
 //   heard SINCE         the texts that readers were given to say, but for so many first ones
 #include "Reader.h"
 
@@ -129,6 +130,8 @@ int main() {
         if (what == "end")
             std::cout << EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), endSession, 0)
                       << std::endl;
+        else if (what == "press")
+            std::cout << PostMessageW(window, BM_CLICK, 0, 0) << std::endl;
         else
             std::cout << describe(window, inside, *answer) << std::endl;
     }

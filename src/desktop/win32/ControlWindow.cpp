@@ -124,16 +124,17 @@ void ControlWindow::place() {
 }
 
 // The focus that goes may bring up a message box: behind it the button is long up again, and no
-// click will follow.
-bool ControlWindow::enter() {
+// click will follow. What a screen reader presses no mouse holds down, and its release does follow.
+bool ControlWindow::enter(WPARAM held) {
     if (!toolkit::takesFocus(control_) || GetFocus() == handle())
         return true;
     SetFocus(handle());
-    return !gone() && GetFocus() == handle() && GetKeyState(VK_LBUTTON) < 0;
+    const bool comes = !(held & MK_LBUTTON) || GetKeyState(VK_LBUTTON) < 0;
+    return !gone() && GetFocus() == handle() && comes;
 }
 
 LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_LBUTTONDOWN && !enter())
+    if (message == WM_LBUTTONDOWN && !enter(wParam))
         return 0;
     if (message == WM_GETOBJECT && static_cast<LONG>(lParam) == OBJID_CLIENT && !speaksItself())
         return accessibleObject(std::static_pointer_cast<ControlWindow>(shared_from_this()),

@@ -49,8 +49,9 @@ protected:
     // Where the control shall stand in its parent, in pixels.
     virtual RECT rectangle() const { return desktop_win32::rectangle(control_, dpi()); }
     virtual void place();
-    // A press of the mouse brings the focus first. False where nothing is left of the press.
-    bool enter();
+    // A press brings the focus first; `held` are the buttons of the mouse that were down with it.
+    // False where nothing is left of the press.
+    bool enter(WPARAM held = MK_LBUTTON);
     // Tells the toolkit that the control has got the focus.
     void reportFocus();
 
