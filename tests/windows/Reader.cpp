@@ -8,6 +8,7 @@
 
 #include <oleauto.h>
 
+#include <filesystem>
 #include <iostream>
 #include <mutex>
 #include <string>
@@ -40,10 +41,7 @@ BOOL CALLBACK ifOfProgram(HWND window, LPARAM to) {
 }
 
 std::string windows(const std::string& program) {
-    std::wstring file(MAX_PATH, L'\0');
-    file.resize(static_cast<std::size_t>(MultiByteToWideChar(
-        CP_UTF8, 0, program.data(), static_cast<int>(program.size()), file.data(), MAX_PATH)));
-    Search search{file, {}};
+    Search search{std::filesystem::path(std::u8string(program.begin(), program.end())), {}};
     EnumWindows(ifOfProgram, reinterpret_cast<LPARAM>(&search));
     return "[" + std::string(search.found.begin(), search.found.end()) + "]";
 }
@@ -118,22 +116,19 @@ int main() {
             line.pop_back();
         const std::size_t blank = line.find(' ');
         const std::string what = line.substr(0, blank), of = line.substr(blank + 1);
-        if (what == "windows") {
-            std::cout << windows(of) << std::endl;
-            continue;
-        }
-        if (what == "heard") {
-            std::cout << heardSince(std::stoul(of)) << std::endl;
-            continue;
-        }
-        HWND const window = reinterpret_cast<HWND>(static_cast<LONG_PTR>(std::stoll(of)));
-        if (what == "end")
-            std::cout << EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), endSession, 0)
-                      << std::endl;
+        HWND const window = reinterpret_cast<HWND>(std::strtoll(of.c_str(), nullptr, 10));
+        if (what == "windows")
+            std::cout << windows(of);
+        else if (what == "heard")
+            std::cout << heardSince(std::stoul(of));
+        else if (what == "end")
+            std::cout << EnumThreadWindows(GetWindowThreadProcessId(window, nullptr), endSession,
+                                           0);
         else if (what == "press")
-            std::cout << PostMessageW(window, BM_CLICK, 0, 0) << std::endl;
+            std::cout << PostMessageW(window, BM_CLICK, 0, 0);
         else
-            std::cout << describe(window, inside, *answer) << std::endl;
+            std::cout << describe(window, inside, *answer);
+        std::cout << std::endl;
     }
     return 0;
 }
