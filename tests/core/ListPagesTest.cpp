@@ -142,7 +142,8 @@ TEST_F(ProgramTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
     EXPECT_EQ(std::tuple(grid.rows(), grid.cols(), grid.FixedRows.get(), grid.FixedCols.get()),
               std::tuple(4, 3, 1, 0));
     for (int c = 0; c < 3; ++c)
-        EXPECT_EQ(std::pair(grid.ColWidth(c), grid.text(0, c)), std::pair(1001, std::string()));
+        EXPECT_EQ(std::pair(grid.ColWidth(c), grid.text(0, c) + grid.text(1, c)),
+                  std::pair(1001, std::string()));
 }
 
 TEST_F(ProgramTest, ASeventhFavoriteIsRefusedAndAnyOfTheSixCanBeTakenBack) {
@@ -177,6 +178,8 @@ TEST_F(ProgramTest, AnOddRowIsStoredAsItWasAndNeverHangsADraw) {
         EXPECT_EQ(pool(page), c.numbers) << c.text;
         EXPECT_EQ(drawn(page), c.numbers) << c.text;
         EXPECT_EQ(desk.takeReports(), c.reports) << c.text;
+        userClickRow(page.grd1, 2);
+        EXPECT_EQ(drawn(page), Numbers{}) << "behind an empty row";
         userClick(page.cmdCancel);
         std::string stored = c.text.substr(0, c.text.size() - c.cut.size());
         while (std::ranges::count(stored, ';') < 49)

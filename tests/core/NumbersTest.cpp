@@ -117,6 +117,9 @@ TEST_F(NumbersTest, ADrawIsSaidOnceAndInRisingOrder) {
     userKey(page, toolkit::key::F1 + 4);
     EXPECT_EQ(desk.announced, Texts{"Drawn: 1, 29, 32, 33, 47, 49"});
     EXPECT_EQ(page.lbl1(33).spoken() + page.lbl1(34).spoken(), "33, drawn34");
+    fix({2, 4, 6, 8, 10, 12});
+    userClick(page.cmdJackpot);
+    EXPECT_EQ(drawn(), (Numbers{2, 4, 6, 8, 10, 12})) << "the marks of the play before";
 }
 
 TEST_F(NumbersTest, ABadStoredSystemIsReportedAndLeavesNoneChosen) {

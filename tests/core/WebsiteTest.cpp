@@ -5,6 +5,7 @@
 #include "platform/Addresses.h"
 #include "tests/support/ProgramTest.h"
 
+#include <map>
 #include <set>
 
 namespace {
@@ -98,6 +99,18 @@ TEST_F(WebsiteTest, TheLinksAreOfferedJustWhenTheProductPageCannotBeOpened) {
         EXPECT_EQ(frmURL::ifLoaded(), nullptr);
     }
     EXPECT_TRUE(desk.boxes.empty());
+}
+
+TEST_F(WebsiteTest, AFrameIsALetterWithinAnOutlineOnWhichASegmentRuns) {
+    using toolkit::Colour;
+    std::map<Colour, int> counts;
+    for (const Colour colour : frmAbout::the().imgLogo(0).Picture.get().bitmap()->pixels)
+        ++counts[colour];
+    const std::map<Colour, int> letter{{toolkit::kWhite, 788}, {toolkit::kBlack, 68}},
+        outline{{0x800000, 140}}, segment{{0x00FFFF, 6}, {toolkit::kRed, 11}, {0x000080, 11}};
+    for (const auto& part : {letter, outline, segment})
+        for (const auto& [colour, count] : part)
+            EXPECT_EQ(counts[colour], count) << colour;
 }
 
 TEST_F(WebsiteTest, TheAnimationRunsRoundFromItsFirstFrameUntilADoubleClick) {
