@@ -2,7 +2,7 @@
 
 import math
 
-from desk import NUMBERS, SYSTEM, Road, click, keys, system, until
+from desk import NUMBERS, SYSTEM, Road, click, keys, part, system, until
 
 SYSTEMS = [6, 7, 8, 9, 10, 11, 12, 13, 22, 26]
 LEFTS = [75, 690, 1320, 1950, 2580, 3210, 3840]  # of the columns of the board, in twips
@@ -14,7 +14,7 @@ class Numbers(Road):
     def test_a_play_is_drawn_by_the_system_chosen_and_the_choice_outlives_the_run(self):
         program = self.run_program()
         self.assertEqual(program.menus(), FRAME_MENUS)
-        tools = system.part(program.frame(), "tool bar").children()
+        tools = part(program.frame(), "tool bar").children()
         self.assertEqual([tuple(tool.box[2:]) for tool in tools if tool.name], [(39, 38)] * 6)
         program.tool("6 from 49")
         page = program.page("6 From 49")
@@ -65,7 +65,6 @@ class Numbers(Road):
             self.assertTrue(page["radio button", "26 From 49"].has("CHECKED"))
             self.check_board(page, scale)
             program.end_session()
-            program.process.wait(10)
 
     def check_board(self, page, scale=1):
         """The numbers stand at the very pixels that their twips ask for."""

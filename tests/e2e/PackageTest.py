@@ -61,7 +61,6 @@ class Package(Road):
             keys(*names)
             until(lambda: page["radio button", "7 From 49"].has("CHECKED"), "the chosen system")
             program.end_session()
-            self.assertEqual(program.process.wait(10), 0)
 
         run("Down")
         data = folder / "Quorvanta.txt"

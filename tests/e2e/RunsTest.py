@@ -3,7 +3,7 @@
 import os
 import time
 
-from desk import APP, DATA, PLACE, Page, Road, in_front, keys, until
+from desk import APP, DATA, PLACE, Page, Road, in_front, keys, system, until
 
 
 class Runs(Road):
@@ -43,7 +43,7 @@ class Runs(Road):
         program.frame()
         os.remove(DATA)
         os.mkdir(DATA)
-        program.end_session()
+        system.end_session(program.process)
         self.assertIn("push button: Abort, Retry, Ignore", "\n".join(program.box().lines))
         time.sleep(1)
         os.rmdir(DATA)

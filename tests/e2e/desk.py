@@ -93,6 +93,10 @@ def opened(*addresses):
     until(lambda: OPENED.read_text(encoding="ascii").split() == list(addresses), "the opener")
 
 
+def part(window, role):
+    return next(node for node in window.children() if node.role == role)
+
+
 class Page:
     """The widgets of a window as they were when it was read, by role and name."""
 
@@ -182,11 +186,11 @@ class Program:
                                                       if w.name == FRAME), "the frame")
 
     def tool(self, tooltip):
-        click(next(button for button in system.part(self.frame(), "tool bar").children()
+        click(next(button for button in part(self.frame(), "tool bar").children()
                    if button.name == tooltip))
 
     def pages(self):
-        return system.pages(self.frame())
+        return part(self.frame(), "layered pane").children()
 
     def dialog(self, title):
         """The window in front, once it has the title."""
@@ -231,7 +235,9 @@ class Program:
         assert self.process.wait(10) == 0
 
     def end_session(self):
+        """Ends the run as the system does, without a question."""
         system.end_session(self.process)
+        assert self.process.wait(10) == 0
 
     def kill(self):
         self.process.kill()

@@ -116,14 +116,6 @@ def tips(process):
     return [window.name for window in windows(process) if window.role == "tool tip"]
 
 
-def part(frame, role):
-    return next(node for node in frame.children() if node.role == role)
-
-
-def pages(frame):
-    return part(frame, "layered pane").children()
-
-
 def menus(frame):
     """The menus of the bar, with what each holds: name, node, states and entries."""
     def entry(node):
@@ -133,4 +125,5 @@ def menus(frame):
         return (node.name + (" (checked)" if node.has("CHECKED") else "")
                 + ("" if node.has("ENABLED") else " (grey)")
                 + (": " + ", ".join(inner) if inner else ""))
-    return [(menu, entry(menu)) for menu in part(frame, "menu bar").children()]
+    menu_bar = next(node for node in frame.children() if node.role == "menu bar")
+    return [(menu, entry(menu)) for menu in menu_bar.children()]

@@ -141,21 +141,22 @@ def tips(process):
     return [node.text for node in every_window(process) if node.facts["class"] == NO_WINDOWS[0]]
 
 
+def registry(what, *arguments, check=True):
+    subprocess.run([WINE, "reg", what, *arguments, "/f"], check=check, capture_output=True)
+
+
 def opener(folder, there):
     """Wine hands over to the Linux program of that name what Windows has a program for."""
     for key, program in ((r"HKCR\.html", "htmlfile"),
                          (r"HKCR\https\shell\open\command", 'winebrowser.exe "%1"')):
-        subprocess.run([WINE, "reg", *(["add", key, "/ve", "/d", program] if there
-                                       else ["delete", key]), "/f"],
-                       capture_output=True, check=there)
+        registry(*(("add", key, "/ve", "/d", program) if there else ("delete", key)), check=there)
     return {"PATH": folder + ":" + os.environ["PATH"]}
 
 
 def at_scale(scale):
     """Has the programs that start from here on find such a screen."""
-    subprocess.run([WINE, "reg", "add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t",
-                    "REG_DWORD", "/d", str(int(96 * scale)), "/f"], check=True,
-                   stdout=subprocess.DEVNULL)
+    registry("add", r"HKCU\Control Panel\Desktop", "/v", "LogPixels", "/t", "REG_DWORD",
+             "/d", str(int(96 * scale)))
 
 
 def end_session(process):
@@ -164,16 +165,8 @@ def end_session(process):
 
 def hold_printer(name, held):
     """Wine doesn't tell of a paused printer, but of one that its user has put off line."""
-    subprocess.run([WINE, "reg", "add", PRINTERS + name, "/v", "Attributes", "/t", "REG_DWORD",
-                    "/d", "0x400" if held else "0", "/f"], stdout=subprocess.DEVNULL, check=True)
-
-
-def part(frame, role):
-    return next(node for node in frame.children() if node.role == role)
-
-
-def pages(frame):
-    return part(frame, "layered pane").children()
+    registry("add", PRINTERS + name, "/v", "Attributes", "/t", "REG_DWORD",
+             "/d", "0x400" if held else "0")
 
 
 def menus(frame):
