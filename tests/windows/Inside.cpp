@@ -77,75 +77,60 @@ Text menu(HWND window, HMENU of, bool bar) {
     return entries.text();
 }
 
-Text toolbar(HWND window) {
-    Json buttons(L"[]");
-    for (int i = 0; i < SendMessageW(window, TB_BUTTONCOUNT, 0, 0); ++i) {
-        TBBUTTON button{};
-        SendMessageW(window, TB_GETBUTTON, static_cast<WPARAM>(i),
-                     reinterpret_cast<LPARAM>(&button));
+// The parts of a tool bar or a status bar, which are no windows.
+Text parts(HWND window, bool tools) {
+    const auto ask = [=](UINT ofTools, UINT ofStatus, int number, void* answer) {
+        return SendMessageW(window, tools ? ofTools : ofStatus, static_cast<WPARAM>(number),
+                            reinterpret_cast<LPARAM>(answer));
+    };
+    Json all(L"[]");
+    for (int i = 0; i < ask(TB_BUTTONCOUNT, SB_GETPARTS, 0, nullptr); ++i) {
+        TBBUTTON button{0, i, TBSTATE_ENABLED, 0, {}, 0, 0};
+        if (tools)
+            ask(TB_GETBUTTON, 0, i, &button);
         if (button.fsStyle & BTNS_SEP)
             continue;
         wchar_t text[256] = L"";
-        SendMessageW(window, TB_GETBUTTONTEXTW, static_cast<WPARAM>(button.idCommand),
-                     reinterpret_cast<LPARAM>(text));
         RECT at{};
-        SendMessageW(window, TB_GETITEMRECT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&at));
+        ask(TB_GETBUTTONTEXTW, SB_GETTEXTW, button.idCommand, text);
+        ask(TB_GETITEMRECT, SB_GETRECT, i, &at);
         Json part(L"{}");
-        part.add(L"role", L"\"push button\"");
+        part.add(L"role", quoted(tools ? L"push button" : L"label"));
         part.add(L"text", quoted(text));
         part.flag(L"enabled", (button.fsState & TBSTATE_ENABLED) != 0);
         part.add(L"box", place(window, at));
-        buttons.add(part.text());
+        all.add(part.text());
     }
-    return buttons.text();
+    return all.text();
 }
 
-Text statusBar(HWND window) {
-    Json panels(L"[]");
-    for (int i = 0; i < SendMessageW(window, SB_GETPARTS, 0, 0); ++i) {
-        wchar_t text[256] = L"";
-        SendMessageW(window, SB_GETTEXTW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-        RECT at{};
-        SendMessageW(window, SB_GETRECT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&at));
-        Json part(L"{}");
-        part.add(L"role", L"\"label\"");
-        part.add(L"text", quoted(text));
-        part.flag(L"enabled", true);
-        part.add(L"box", place(window, at));
-        panels.add(part.text());
-    }
-    return panels.text();
+VARIANT child(long number) {
+    VARIANT it{};
+    it.vt = VT_I4;
+    it.lVal = number;
+    return it;
 }
 
-// A window's own object for screen readers, or one of its children by its number.
-struct Accessible {
-    IAccessible* object;
-    VARIANT child;
-
-    Accessible(IAccessible* of, long number) : object(of), child{} {
-        child.vt = VT_I4;
-        child.lVal = number;
-    }
-    Text description() const {
-        Json found(L"{}");
-        BSTR name = nullptr, value = nullptr;
-        if (object->get_accName(child, &name) == S_OK && name)
-            found.add(L"name", quoted(name));
-        if (object->get_accValue(child, &value) == S_OK && value)
-            found.add(L"value", quoted(value));
-        SysFreeString(name);
-        SysFreeString(value);
-        VARIANT role{}, state{};
-        if (object->get_accRole(child, &role) == S_OK)
-            found.add(L"role", static_cast<long long>(role.lVal));
-        if (object->get_accState(child, &state) == S_OK)
-            found.add(L"state", static_cast<long long>(state.lVal));
-        long left = 0, top = 0, width = 0, height = 0;
-        if (object->accLocation(&left, &top, &width, &height, child) == S_OK)
-            found.add(L"box", place(RECT{left, top, left + width, top + height}));
-        return found.text();
-    }
-};
+// What screen readers get of a window, or of one of its children.
+Text spoken(IAccessible& object, VARIANT of) {
+    Json found(L"{}");
+    BSTR name = nullptr, value = nullptr;
+    if (object.get_accName(of, &name) == S_OK && name)
+        found.add(L"name", quoted(name));
+    if (object.get_accValue(of, &value) == S_OK && value)
+        found.add(L"value", quoted(value));
+    SysFreeString(name);
+    SysFreeString(value);
+    VARIANT role{}, state{};
+    if (object.get_accRole(of, &role) == S_OK)
+        found.add(L"role", role.lVal);
+    if (object.get_accState(of, &state) == S_OK)
+        found.add(L"state", state.lVal);
+    long left = 0, top = 0, width = 0, height = 0;
+    if (object.accLocation(&left, &top, &width, &height, of) == S_OK)
+        found.add(L"box", place(RECT{left, top, left + width, top + height}));
+    return found.text();
+}
 
 void describeAccessible(HWND window, Json& to) {
     const LRESULT result = SendMessageW(window, WM_GETOBJECT, 0, OBJID_CLIENT);
@@ -153,18 +138,24 @@ void describeAccessible(HWND window, Json& to) {
     if (result <= 0 || FAILED(ObjectFromLresult(result, __uuidof(IAccessible), 0,
                                                 reinterpret_cast<void**>(&object))))
         return;
-    to.add(L"spoken", Accessible(object, CHILDID_SELF).description());
+    to.add(L"spoken", spoken(*object, child(CHILDID_SELF)));
     // Of a grid its cells; what lies inside others are windows too.
     Json children(L"[]");
     VARIANT role{};
     long count = 0;
-    object->get_accRole(Accessible(object, CHILDID_SELF).child, &role);
+    object->get_accRole(child(CHILDID_SELF), &role);
     if (role.lVal == ROLE_SYSTEM_TABLE)
         object->get_accChildCount(&count);
     for (long i = 1; i <= count; ++i)
-        children.add(Accessible(object, i).description());
+        children.add(spoken(*object, child(i)));
     to.add(L"parts", children.text());
     object->Release();
+}
+
+Text classOf(HWND window) {
+    wchar_t kind[64] = L"";
+    GetClassNameW(window, kind, 64);
+    return kind;
 }
 
 Text textOf(HWND window) {
@@ -174,17 +165,17 @@ Text textOf(HWND window) {
     return text;
 }
 
+bool isA(HWND window, const wchar_t* kind) {
+    return lstrcmpiW(classOf(window).c_str(), kind) == 0;
+}
+
 Text describe(HWND window) {
     Json found(L"{}");
-    wchar_t kind[64] = L"";
-    GetClassNameW(window, kind, 64);
     HWND const parent = GetAncestor(window, GA_PARENT);
-    wchar_t parentKind[64] = L"";
-    GetClassNameW(parent, parentKind, 64);
-    const bool page = lstrcmpiW(parentKind, L"MDIClient") == 0;
+    const bool page = isA(parent, L"MDIClient"), tools = isA(window, TOOLBARCLASSNAMEW);
     RECT at{};
     GetWindowRect(window, &at);
-    found.add(L"class", quoted(kind));
+    found.add(L"class", quoted(classOf(window)));
     found.add(L"text", quoted(textOf(window)));
     found.add(L"style", GetWindowLongPtrW(window, GWL_STYLE));
     found.add(L"box", place(at));
@@ -193,18 +184,16 @@ Text describe(HWND window) {
     found.flag(L"active", GetForegroundWindow() == window);
     found.flag(L"focused", page ? SendMessageW(parent, WM_MDIGETACTIVE, 0, 0) == number(window)
                                 : GetFocus() == window);
-    if (lstrcmpiW(kind, L"Button") == 0)
+    if (isA(window, L"Button"))
         found.flag(L"checked", SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED);
     if (GetMenu(window) && !(GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD))
         found.add(L"menus", menu(window, GetMenu(window), true));
-    if (lstrcmpiW(kind, TOOLBARCLASSNAMEW) == 0)
-        found.add(L"parts", toolbar(window));
-    else if (lstrcmpiW(kind, STATUSCLASSNAMEW) == 0)
-        found.add(L"parts", statusBar(window));
+    if (tools || isA(window, STATUSCLASSNAMEW))
+        found.add(L"parts", parts(window, tools));
     else
         describeAccessible(window, found);
     // From the first made to the last: those of the program stand upon one another.
-    const bool box = lstrcmpiW(kind, L"#32770") == 0;
+    const bool box = isA(window, L"#32770");
     const UINT next = box ? GW_HWNDNEXT : GW_HWNDPREV;
     HWND child = GetWindow(window, GW_CHILD);
     if (!box && child)
