@@ -6,11 +6,6 @@ BOXES = ["Date Started", "Total Amount of Bets", "Winnings", "Largest Win"]
 
 
 class Bankroll(Road):
-    def open(self, locale="de_DE"):
-        program = self.run_program(locale=locale + ".UTF-8")
-        program.tool("Bankroll")
-        return program, program.page("Bankroll")
-
     def test_the_balance_follows_the_bets_and_is_there_again_at_the_next_start(self):
         for locale, date, typed, shown in (
                 ("en_US", "7/25/2005", ("1250.5", "-749.5"),
@@ -20,7 +15,7 @@ class Bankroll(Road):
             won, bets, largest, *balances = shown
             self.write_data("[Win/Loss]", "Win:" + typed[0], "Loss:980", "Large:500",
                             "Date:" + date)
-            program, page = self.open(locale)
+            program, page = self.open("Bankroll", locale=locale + ".UTF-8")
             self.assertEqual(page.lines, [
                 "panel: Bankroll", f"  label: {balances[0]}, Date Started", "  text: Date Started",
                 "  label: Total Amount of Bets", "  text: Total Amount of Bets",
@@ -38,18 +33,16 @@ class Bankroll(Road):
             program.end()
             self.assertEqual(self.data()[29:34], ["Win:" + typed[0], "Loss:2000", "Bal:" + typed[1],
                                                   "Large:500", "Date:" + date])
-            program, page = self.open(locale)
+            program, page = self.open("Bankroll", locale=locale + ".UTF-8")
             self.assertEqual([page["text", name].text for name in BOXES],
                              [date, bets, won, largest])
             self.assertTrue(shows(RED, [page["label", balances[2]]])[0])
             program.end()
 
     def test_a_wrong_amount_is_refused_once_whatever_takes_the_focus_and_esc_gives_it_up(self):
-        program, page = self.open()
-        program.tool("Customize Six")
-        rows = program.page("Customize 6")
-        program.tool("Bankroll")
-        wins = program.page("Bankroll")["text", "Winnings"]
+        program, page = self.open("Bankroll", locale="de_DE.UTF-8")
+        rows = program.open("Customize 6")
+        wins = program.open("Bankroll")["text", "Winnings"]
         for way in (lambda: keys("Tab"), lambda: click(page["text", "Largest Win"]),
                     lambda: page.press("Calculator"), lambda: program.tool("6 from 49"),
                     lambda: rows.press("Jackpot Generator"), lambda: click(rows.cell(3)),
@@ -63,8 +56,7 @@ class Bankroll(Road):
         keys(*"abc", "Escape")
         program.page("Customize 6")
         self.assertEqual((rows.chosen(), rows.drawn()), (1, []))
-        program.tool("Bankroll")
-        program.page("Bankroll").press("Calculator")
+        program.open("Bankroll").press("Calculator")
         calculator = "search", "--onlyvisible", "--class", system.CALCULATOR
         until(lambda: xdotool(*calculator), "the calculator")
         xdotool(*calculator, "windowkill")

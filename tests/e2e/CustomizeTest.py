@@ -11,13 +11,8 @@ def row(n, *numbers):
 
 
 class Customize(Road):
-    def open(self):
-        program = self.run_program()
-        program.tool("Customize Six")
-        return program, program.page("Customize 6")
-
     def test_a_row_goes_from_the_keypad_to_the_data_file_and_is_drawn_from(self):
-        program, page = self.open()
+        program, page = self.open("Customize 6")
         self.assertEqual(page.lines, [
             "panel: Keypad", "  push button: " + NUMBERS, "table: Customized",
             "push button: Reset, File to Grid, Close", "status bar:",
@@ -50,19 +45,18 @@ class Customize(Road):
         program.end()
         self.assertEqual(self.data()[4:8], ["[StammNumbers]", row(1, *PICKS), row(2, *ALL), row(3)])
 
-        program, page = self.open()
+        program, page = self.open("Customize 6")
         keys("F5")  # the page opens with row 1
         until(lambda: len(page.drawn()) == 6, "a draw from row 1")
         self.assertEqual(page.pool(), PICKS)
         xdotool("key", "--delay", 0, *["F5"] * 9, "Escape")  # a draw that yields meets the last
         until(lambda: not program.pages(), "the page's end under its draws")
-        program.tool("Customize Six")
-        self.assertEqual(program.page("Customize 6").row(1), list(map(str, PICKS)))
+        self.assertEqual(program.open("Customize 6").row(1), list(map(str, PICKS)))
 
     def test_rows_are_deleted_after_yes_alone_and_shift_mode_ends_on_the_page_only(self):
         rows = [row(r, r, 11, 12, 13, 14, 15, 16) for r in range(1, 4)]
         self.write_data("", "", "", "[StammNumbers]", *rows)
-        program, page = self.open()
+        program, page = self.open("Customize 6")
 
         def first():
             return "".join(page.cell(r).name for r in range(1, 11))

@@ -78,8 +78,7 @@ class Dialogs(Road):
             keys("Escape")  # the dialog stays
             self.assertEqual({name: website["text", name].text for name in links}, links)
             keys("Return")
-            program.tool("Bankroll")
-            page = program.page("Bankroll")
+            page = program.open("Bankroll")
             keys("Tab", "ctrl+v")
             bets = page["text", "Total Amount of Bets"]
             until(lambda: bets.text == links[link], "the link")

@@ -22,8 +22,7 @@ class Help(Road):
         self.assertRegex(program.answer("OK"), r"(?s)The help can't be shown\..*can't be opened:"
                          r".*\\Quorvanta-help\.html.*Reason: \S")
         put_opener("exit 0")
-        program.tool("Bankroll")
-        page = program.page("Bankroll")
+        page = program.open("Bankroll")
         program.tool("Help")
         address = until(OPENED.read_text, "the browser").strip()
         shown = pathlib.Path(unquote(address.removeprefix("file://"))).read_text(encoding="utf-8")

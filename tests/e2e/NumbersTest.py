@@ -16,8 +16,7 @@ class Numbers(Road):
         self.assertEqual(program.menus(), FRAME_MENUS)
         tools = part(program.frame(), "tool bar").children()
         self.assertEqual([tuple(tool.box[2:]) for tool in tools if tool.name], [(39, 38)] * 6)
-        program.tool("6 from 49")
-        page = program.page("6 From 49")
+        page = program.open("6 From 49")
         self.assertEqual(page.lines, [
             "panel: System -- 49",
             "  radio button: 6 From 49 (checked), "
@@ -48,8 +47,7 @@ class Numbers(Road):
         self.assertEqual(len(heard.so_far()), 4)
         keys("alt+F4")
         self.assertEqual(program.answer("No"), "Exiting Quor Vanta ")
-        program.tool("6 from 49")
-        self.assertEqual(program.page("6 From 49").window, page.window)
+        self.assertEqual(program.open("6 From 49").window, page.window)
         keys("alt", "Right", "Escape")  # leaves the menu bar
         self.assertEqual(page.drawn(), play)
         keys("Escape")

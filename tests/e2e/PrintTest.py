@@ -20,15 +20,10 @@ BACKEND = PLACE.rpartition(".")[2]
 BACKEND_CONFIGURATION = f"/etc/cups/cups-pdf-{BACKEND}.conf"  # it looks for it nowhere else
 ANYONE = "Order allow,deny"
 CONFIGURATION = {
-    "cups-files.conf": f"""ServerRoot {CUPS}
-        ServerBin {CUPS}/lib
-        RequestRoot {CUPS}/spool
-        CacheDir {CUPS}/cache
-        StateDir {CUPS}/state
-        TempDir {CUPS}/tmp
-        AccessLog {CUPS}/access_log
-        ErrorLog {CUPS}/error_log
-        PageLog {CUPS}/page_log""",
+    "cups-files.conf": "\n".join(f"{what} {CUPS}/{place}" for what, place in (
+        ("ServerRoot", ""), ("ServerBin", "lib"), ("RequestRoot", "spool"), ("CacheDir", "cache"),
+        ("StateDir", "state"), ("TempDir", "tmp"), ("AccessLog", "access_log"),
+        ("ErrorLog", "error_log"), ("PageLog", "page_log"))),
     "cupsd.conf": f"""Listen {CUPS}/socket
         Browsing No
         DefaultAuthType None
@@ -136,8 +131,7 @@ class PrintOut(Road):
                                                  FONTCONFIG_FILE=PLACE + "/fonts.conf"), 0
 
         def choose_print():  # the last entry of the page's own menu, which is the second of the bar
-            program.tool("Favorites")
-            program.page("Favorites")
+            program.open("Favorites")
             keys("alt", "Right", "Down", "Up", "Return")
 
         def answer(button):

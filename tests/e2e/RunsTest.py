@@ -27,9 +27,8 @@ class Runs(Road):
         keys("space")
         program.frame()
         self.assertLess(time.monotonic() - begin, 2)  # a key ends the splash
-        for tool, title in (("6 from 49", "6 From 49"), ("Favorites", "Favorites")):
-            program.tool(tool)
-            program.page(title)
+        program.open("6 From 49")
+        program.open("Favorites")
         program.end()  # one question for all pages
 
     def test_the_box_of_a_bad_line_outlasts_the_splash_and_a_failing_save_asks_at_every_end(self):

@@ -203,6 +203,11 @@ class Program:
         return Page(until(lambda: next(page for page in self.pages() if page.name == title
                                        and page.has("FOCUSED")), title))
 
+    def open(self, title):
+        """The page, brought to the front by its tool."""
+        self.tool({"6 From 49": "6 from 49", "Customize 6": "Customize Six"}.get(title, title))
+        return self.page(title)
+
     def menus(self):
         """The menu bar: each menu with its entries, a separator as a dash."""
         return [entries for _, entries in system.menus(self.frame())]
@@ -262,6 +267,11 @@ class Road(unittest.TestCase):
         program = Program(**how)
         self.addCleanup(program.kill)
         return program
+
+    def open(self, title, **how):
+        """A run with the page in front."""
+        program = self.run_program(**how)
+        return program, program.open(title)
 
     def check_order(self, page, *order):
         """Tab goes through the widgets in the order given, and back to the first."""
