@@ -9,7 +9,7 @@ using tests::Texts;
 struct Files : testing::Test, tests::FilesTest {};
 
 TEST_F(Files, FailureHasTheNumberThatItsCauseTells) {
-    tests::fs::create_directory(files.own("directory"));
+    std::filesystem::create_directory(files.own("directory"));
     files.create("file", "");
     EXPECT_EQ(numbersOf("missing"), "53 76 53 0 0 ");
     EXPECT_EQ(numbersOf("no/where"), "76 76 76 76 76 ");

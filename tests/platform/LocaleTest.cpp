@@ -9,11 +9,7 @@ namespace {
 
 using tests::localeNamed, tests::valueOf, tests::valuesOf;
 
-#ifdef _WIN32
-constexpr bool kWine = true;
-#else
-constexpr bool kWine = false;
-#endif
+constexpr bool kWine = std::filesystem::path::preferred_separator == '\\';
 
 struct Row {
     const char* locale;
@@ -46,7 +42,18 @@ constexpr Row kRows[] = {
     {"ja_JP", LOCALE_SCURRENCY, "|\\", "|\x81\x8F"}, // the yen sign's place in code page 932
     {"ja_JP", LOCALE_ICURRDIGITS, "|0"},
     {"en_IN", LOCALE_SGROUPING, "|3;2;0"},
-    {"en_US", 5000, "|"}};
+    {"en_US", 5000, "|"},
+#ifndef _WIN32 // whose names of locales are others
+    {"POSIX", LOCALE_SDATE, "|/|:|M/d/yyyy|dddd, MMMM d, yyyy|0|0|0|1"},
+    {"de_DE@euro", LOCALE_ILANGUAGE, "|0407|Deutsch (Deutschland)|DEU|Deutsch|49"},
+    {"de", LOCALE_SABBREVCTRYNAME, "|DEU"},
+    {"hi_IN", LOCALE_IDEFAULTANSICODEPAGE, "|1252"},
+    {"fi_FI", LOCALE_STIME, "|."},
+    {"ar_EG", LOCALE_SNATIVEDIGITS, "|0123456789"},
+    {"sr_RS@latin", LOCALE_ILANGUAGE, "|241a"},
+    {"sr_RS", LOCALE_ILANGUAGE, "|281a"},
+#endif
+};
 
 TEST(Locale, ItemsHaveThePublishedValues) {
     for (const Row& row : kRows) {

@@ -93,8 +93,6 @@ struct RealFilesPlatform {
     RealFilesPlatform(const RealFilesPlatform&) = delete;
 };
 
-namespace fs = std::filesystem;
-
 // The data file's routines, and single operations, on real files.
 struct FilesTest : RealFilesPlatform {
     void saveRow(const std::string& row) {
