@@ -114,13 +114,10 @@ VARIANT child(long number) {
 // What screen readers get of a window, or of one of its children.
 Text spoken(IAccessible& object, VARIANT of) {
     Json found(L"{}");
-    BSTR name = nullptr, value = nullptr;
+    BSTR name = nullptr;
     if (object.get_accName(of, &name) == S_OK && name)
         found.add(L"name", quoted(name));
-    if (object.get_accValue(of, &value) == S_OK && value)
-        found.add(L"value", quoted(value));
     SysFreeString(name);
-    SysFreeString(value);
     VARIANT role{}, state{};
     if (object.get_accRole(of, &role) == S_OK)
         found.add(L"role", role.lVal);
