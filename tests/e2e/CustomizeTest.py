@@ -67,6 +67,11 @@ class Customize(Road):
                              "Do you want to delete this row from the grid?")
             until(lambda: (first(), page.chosen()) == (left, 0), answer)
         click(page.cell(2))
+        top = page.cell(2).box[1]
+        for notch, turned in ((5, lambda: page.cell(2).box[1] < top),
+                              (4, lambda: page.cell(2).box[1] == top)):
+            click(page.grid, button=notch)
+            until(turned, "the rows where the wheel has brought them")
         keys("ctrl")
         until(page.shift_mode, "shift mode")
         click(page.cell(5))

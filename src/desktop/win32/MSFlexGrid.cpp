@@ -1,8 +1,6 @@
-#include "desktop/win32/GridAccessible.h"
+#include "desktop/win32/GridAxis.h"
 
 #include <windowsx.h>
-
-#include <algorithm>
 
 namespace desktop_win32 {
 
@@ -32,20 +30,18 @@ public:
     void paintAt(HDC dc, POINT place) override;
 
     RECT cellPlace(Cell cell) const override {
-        const int left = start(columns(), cell.column), top = start(rows(), cell.row);
-        return {left, top, left + size(columns(), cell.column), top + size(rows(), cell.row)};
+        const int left = columns_.start(cell.column), top = rows_.start(cell.row);
+        return {left, top, left + columns_.size(cell.column), top + rows_.size(cell.row)};
     }
     RECT cellInView(Cell cell) const override {
         const RECT all = cellPlace(cell);
-        const RECT view{begin(columns(), cell.column), begin(rows(), cell.row), room(columns()),
-                        room(rows())};
+        const RECT view{columns_.begin(cell.column), rows_.begin(cell.row), columns_.room(),
+                        rows_.room()};
         RECT seen{};
         IntersectRect(&seen, &all, &view);
         return seen;
     }
-    Cell cellAt(POINT place) const override {
-        return {at(rows(), place.y), at(columns(), place.x)};
-    }
+    Cell cellAt(POINT place) const override { return {rows_.at(place.y), columns_.at(place.x)}; }
 
 protected:
     LRESULT received(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -55,43 +51,6 @@ protected:
     }
 
 private:
-    // Either direction: rows from the top, or columns from the left.
-    struct Axis {
-        int bar; // SB_VERT or SB_HORZ
-        int count, fixed;
-    };
-    Axis rows() const { return {SB_VERT, grid_.rows(), grid_.FixedRows}; }
-    Axis columns() const { return {SB_HORZ, grid_.cols(), grid_.FixedCols}; }
-
-    int size(const Axis& axis, int index) const {
-        return pixels(axis.bar == SB_VERT ? grid_.RowHeight(index) : grid_.ColWidth(index), dpi());
-    }
-    int sizes(const Axis& axis, int from, int to) const {
-        int all = 0;
-        for (int i = from; i < to; ++i)
-            all += size(axis, i);
-        return all;
-    }
-    int room(const Axis& axis) const {
-        RECT all{};
-        GetClientRect(handle(), &all);
-        return axis.bar == SB_VERT ? all.bottom : all.right;
-    }
-    // Where a row or column begins, and which one is at a place; -1 for none.
-    int start(const Axis& axis, int index) const {
-        return sizes(axis, 0, index) - (index < axis.fixed ? 0 : GetScrollPos(handle(), axis.bar));
-    }
-    int at(const Axis& axis, int place) const {
-        for (int i = 0; i < axis.count && place < room(axis); ++i)
-            if (place >= std::max(start(axis, i), begin(axis, i)) &&
-                place < start(axis, i) + size(axis, i))
-                return i;
-        return -1;
-    }
-    // From where on it can be seen: what is scrolled goes below the fixed ones.
-    int begin(const Axis& axis, int index) const {
-        return index < axis.fixed ? 0 : sizes(axis, 0, std::min(axis.fixed, axis.count));
-    }
     // The row of a data cell, 0 for a header cell, -1 for none.
     int rowAt(LPARAM place) const {
         const auto [row, column] = cellAt({GET_X_LPARAM(place), GET_Y_LPARAM(place)});
@@ -99,12 +58,14 @@ private:
     }
 
     void showBars();
-    void showBar(const Axis& axis, int room);
-    void scrollTo(const Axis& axis, int position);
-    void scroll(const Axis& axis, WORD how);
-    void showRow();
+    void repaintIf(bool moved) {
+        if (moved)
+            repaint();
+    }
     void paintCell(HDC dc, int row, int column, POINT place);
     void press(UINT message, LPARAM place);
+
+    GridAxis rows_{*this, SB_VERT}, columns_{*this, SB_HORZ};
 };
 
 void MSFlexGridWindow::changed(toolkit::Prop which) {
@@ -115,7 +76,7 @@ void MSFlexGridWindow::changed(toolkit::Prop which) {
         showBars();
         return repaint();
     case toolkit::Prop::Row:
-        showRow();
+        rows_.show(grid_.row());
         repaint();
         return tellChosenRow(*this);
     default:
@@ -132,71 +93,14 @@ void MSFlexGridWindow::showBars() {
     const auto thickness = [this](int metric) {
         return GetSystemMetricsForDpi(metric, static_cast<UINT>(dpi()));
     };
-    const int wide = sizes(columns(), 0, grid_.cols()), high = sizes(rows(), 0, grid_.rows());
+    const int wide = columns_.size(), high = rows_.size();
     int width = all.right - all.left - (edges.right - edges.left);
     int height = all.bottom - all.top - (edges.bottom - edges.top);
     const bool down = high > height || (wide > width && high > height - thickness(SM_CYHSCROLL));
     width -= down ? thickness(SM_CXVSCROLL) : 0;
     height -= wide > width ? thickness(SM_CYHSCROLL) : 0;
-    showBar(columns(), width);
-    showBar(rows(), height);
-}
-
-void MSFlexGridWindow::showBar(const Axis& axis, int room) {
-    SCROLLINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = SIF_RANGE | SIF_PAGE;
-    info.nMax = std::max(0, sizes(axis, axis.fixed, axis.count) - 1);
-    info.nPage = static_cast<UINT>(std::max(1, room - begin(axis, axis.fixed)));
-    SetScrollInfo(handle(), axis.bar, &info, TRUE);
-}
-
-void MSFlexGridWindow::scrollTo(const Axis& axis, int position) {
-    if (SetScrollPos(handle(), axis.bar, position, TRUE) != position)
-        repaint();
-}
-
-void MSFlexGridWindow::scroll(const Axis& axis, WORD how) {
-    SCROLLINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = SIF_ALL;
-    GetScrollInfo(handle(), axis.bar, &info);
-    const int page = static_cast<int>(info.nPage);
-    const int line = axis.count > axis.fixed ? size(axis, axis.fixed) : 1;
-    int to = info.nPos;
-    switch (how) {
-    case SB_LINEUP:
-    case SB_LINEDOWN:
-        to += how == SB_LINEDOWN ? line : -line;
-        break;
-    case SB_PAGEUP:
-    case SB_PAGEDOWN:
-        to += how == SB_PAGEDOWN ? page : -page;
-        break;
-    case SB_THUMBTRACK:
-    case SB_THUMBPOSITION:
-        to = info.nTrackPos;
-        break;
-    default:
-        return;
-    }
-    scrollTo(axis, std::clamp(to, 0, std::max(0, info.nMax + 1 - page)));
-}
-
-// Brings the current row wholly into view.
-void MSFlexGridWindow::showRow() {
-    const Axis axis = rows();
-    const int row = grid_.row();
-    if (row < axis.fixed)
-        return;
-    const int fixed = sizes(axis, 0, axis.fixed);
-    const int above = start(axis, row) - fixed;
-    const int below = start(axis, row) + size(axis, row) - room(axis);
-    const int now = GetScrollPos(handle(), axis.bar);
-    if (above < 0)
-        scrollTo(axis, now + above);
-    else if (below > 0)
-        scrollTo(axis, now + std::min(below, above));
+    columns_.showBar(width);
+    rows_.showBar(height);
 }
 
 // The shadow of buttons where it can be seen on the cells, else the colour of their texts.
@@ -209,7 +113,7 @@ COLORREF lineColour() {
 void MSFlexGridWindow::paintCell(HDC dc, int row, int column, POINT place) {
     const bool header = grid_.isHeader(row, column);
     const bool chosen = !header && row == grid_.row();
-    RECT cell{place.x, place.y, place.x + size(columns(), column), place.y + size(rows(), row)};
+    RECT cell{place.x, place.y, place.x + columns_.size(column), place.y + rows_.size(row)};
     const int ground = header ? COLOR_BTNFACE : chosen ? COLOR_HIGHLIGHT : COLOR_WINDOW;
     FillRect(dc, &cell, GetSysColorBrush(ground));
     fill(dc, {cell.left, cell.bottom - 1, cell.right, cell.bottom}, lineColour());
@@ -235,7 +139,7 @@ void MSFlexGridWindow::paintAt(HDC dc, POINT place) {
                 if ((row < grid_.FixedRows) == fixedRow &&
                     (column < grid_.FixedCols) == fixedColumn)
                     paintCell(dc, row, column,
-                              {place.x + start(columns(), column), place.y + start(rows(), row)});
+                              {place.x + columns_.start(column), place.y + rows_.start(row)});
     SelectObject(dc, before);
     if (GetFocus() == handle())
         DrawFocusRect(dc, &all);
@@ -258,15 +162,18 @@ LRESULT MSFlexGridWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_HSCROLL:
     case WM_VSCROLL:
-        scroll(message == WM_HSCROLL ? columns() : rows(), LOWORD(wParam));
+        repaintIf((message == WM_HSCROLL ? columns_ : rows_).scroll(LOWORD(wParam)));
         return 0;
-    case WM_MOUSEWHEEL:
-        for (int i = 0; i < 3; ++i)
-            scroll(rows(), GET_WHEEL_DELTA_WPARAM(wParam) > 0 ? SB_LINEUP : SB_LINEDOWN);
-        return 0;
+    case WM_MOUSEHWHEEL:
+    case WM_MOUSEWHEEL: // the window around it may use what it can't
+        if (GridAxis& turned = message == WM_MOUSEHWHEEL ? columns_ : rows_; turned.scrolls()) {
+            repaintIf(turned.turn(GET_WHEEL_DELTA_WPARAM(wParam)));
+            return 0;
+        }
+        break;
     case WM_KEYDOWN: // the other keys of a grid are the toolkit's
         if (wParam == VK_LEFT || wParam == VK_RIGHT)
-            scroll(columns(), wParam == VK_LEFT ? SB_LINEUP : SB_LINEDOWN);
+            repaintIf(columns_.scroll(wParam == VK_LEFT ? SB_LINEUP : SB_LINEDOWN));
         return 0;
     case WM_GETOBJECT:
         if (static_cast<LONG>(lParam) == OBJID_CLIENT)
