@@ -66,13 +66,15 @@ public:
     Property<bool> Visible{*this, Prop::Visible, true};
     Property<Colour> ForeColor{*this, Prop::ForeColor, kThemeColour};
     Property<bool> FontBold{*this, Prop::FontBold};
-    Property<std::string> ToolTipText{*this, Prop::ToolTipText};
     Property<double> Left{*this, Prop::Left};
     Property<double> Top{*this, Prop::Top};
     Property<double> Width{*this, Prop::Width};
     Property<double> Height{*this, Prop::Height};
     std::string Tag;
     int TabIndex = 0; // the order in which Tab visits the controls of a form
+
+    // Design values, which a desktop reads when it makes the control.
+    std::string ToolTipText;
     DesignFont design;
 
     // What a screen reader says of the control where its caption doesn't tell; `speaks` where that

@@ -15,10 +15,9 @@ class Label : public Control {
 public:
     using Control::Control;
 
-    Property<Colour> BackColor{*this, Prop::BackColor, kThemeColour};
-    Property<Alignment> TextAlign{*this, Prop::TextAlign, Alignment::Left};
-
-    // Design values, which a desktop reads when it makes the label.
+    // Design values.
+    Colour BackColor = kThemeColour;
+    Alignment TextAlign = Alignment::Left;
     bool BorderStyle = false; // a fixed single border
     bool AutoSize = false;    // grows with its text, so that nothing is cut off
     bool shrinksText = false; // a smaller font, rather than a long text cut off
@@ -31,7 +30,7 @@ public:
     // A text in a border stands in its middle, any other at the top.
     Alignment shownAlign() const { return BorderStyle ? Alignment::Centre : TextAlign; }
     // The tool tip; that of a text which is cut off tells it whole.
-    const std::string& shownTip(bool cut) const { return cut ? Caption.get() : ToolTipText.get(); }
+    const std::string& shownTip(bool cut) const { return cut ? Caption.get() : ToolTipText; }
     bool wraps() const { return !AutoSize && !BorderStyle && !shrinksText; }
 
     std::string spoken() const override { return isShadow ? "" : Control::spoken(); }

@@ -5,7 +5,7 @@
 namespace toolkit {
 
 std::string PictureControl::spoken() const {
-    return spokenAs.empty() ? ToolTipText.get() : spokenAs;
+    return spokenAs.empty() ? ToolTipText : spokenAs;
 }
 
 bool PictureBox::useKey(const KeyStroke& key) {

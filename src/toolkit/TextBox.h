@@ -14,9 +14,11 @@ public:
     // The selected text, in characters.
     Property<int> SelStart{*this, Prop::Selection};
     Property<int> SelLength{*this, Prop::Selection};
-    Property<Alignment> TextAlign{*this, Prop::TextAlign, Alignment::Left};
-    Property<bool> Locked{*this, Prop::Locked}; // can be selected and copied, not changed
-    bool shrinksText = false; // by design: a smaller font, rather than a long text cut off
+
+    // Design values.
+    Alignment TextAlign = Alignment::Left;
+    bool Locked = false;      // can be selected and copied, not changed
+    bool shrinksText = false; // a smaller font, rather than a long text cut off
 
     // The selection in units of UTF-16, of the text as a desktop shows it.
     struct Span {

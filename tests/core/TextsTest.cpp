@@ -58,7 +58,7 @@ protected:
         if (!all.empty() && all.find_first_not_of("0123456789") == all.npos)
             return "";
         all += it.spokenAs.empty() ? "" : "{" + it.spokenAs + "}";
-        all += it.ToolTipText.get().empty() ? "" : " <" + it.ToolTipText.get() + ">";
+        all += it.ToolTipText.empty() ? "" : " <" + it.ToolTipText + ">";
         if (const auto* const bar = dynamic_cast<const toolkit::Toolbar*>(&it))
             for (const auto& button : bar->Buttons)
                 all += "<" + button.ToolTipText + ">";

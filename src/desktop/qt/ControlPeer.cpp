@@ -45,8 +45,6 @@ void ControlPeer::changed(Prop which) {
     case Prop::FontBold:
         showLook();
         return speak();
-    case Prop::ToolTipText:
-        return widget_->setToolTip(text(control_.ToolTipText));
     case Prop::Left:
     case Prop::Top:
     case Prop::Width:

@@ -23,21 +23,13 @@ public:
     LabelPeer(toolkit::Label& label, QLabel* widget)
         : ControlPeer(label, widget), label_(label), widget_(widget) {
         widget->setTextFormat(Qt::PlainText);
-        align();
+        widget->setAlignment(alignment(label.shownAlign()) |
+                             (label.BorderStyle ? Qt::AlignVCenter : Qt::AlignTop));
         widget->setWordWrap(label.wraps());
         if (label.BorderStyle)
             widget->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         showCaption();
         showLook();
-    }
-
-    void changed(toolkit::Prop which) override {
-        if (which == toolkit::Prop::TextAlign)
-            align();
-        else if (which == toolkit::Prop::BackColor)
-            showLook();
-        else
-            ControlPeer::changed(which);
     }
 
     void showCaption() override {
@@ -63,11 +55,6 @@ public:
     }
 
 private:
-    void align() {
-        widget_->setAlignment(alignment(label_.shownAlign()) |
-                              (label_.BorderStyle ? Qt::AlignVCenter : Qt::AlignTop));
-    }
-
     // What the smallest size doesn't fit ends in dots.
     void shrinkText() {
         const QString whole = text(label_.Caption);

@@ -61,7 +61,8 @@ class TextBoxPeer final : public ControlPeer {
 public:
     TextBoxPeer(toolkit::TextBox& box, QLineEdit* widget)
         : ControlPeer(box, widget), box_(box), widget_(widget) {
-        align();
+        widget->setAlignment(box.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
+                                                                        : Qt::AlignLeft);
         if (box.shrinksText)
             QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this] { shrinkText(); });
         widget->setReadOnly(box.Locked);
@@ -83,10 +84,6 @@ public:
             showText();
         else if (which == toolkit::Prop::Selection)
             select();
-        else if (which == toolkit::Prop::TextAlign)
-            align();
-        else if (which == toolkit::Prop::Locked)
-            widget_->setReadOnly(box_.Locked);
         else
             ControlPeer::changed(which);
     }
@@ -95,11 +92,6 @@ private:
     void select() {
         const auto [from, to] = box_.selectionIn(widget_->text().toStdString());
         widget_->setSelection(from, to - from);
-    }
-
-    void align() {
-        widget_->setAlignment(box_.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
-                                                                          : Qt::AlignLeft);
     }
 
     void showText() {

@@ -90,8 +90,6 @@ void ControlWindow::changed(Prop which) {
         if (control_.speaks)
             NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, handle(), OBJID_CLIENT, CHILDID_SELF);
         return showLook();
-    case Prop::ToolTipText:
-        return showToolTip();
     case Prop::Left:
     case Prop::Top:
     case Prop::Width:

@@ -17,13 +17,6 @@ public:
         return it;
     }
 
-    void changed(toolkit::Prop which) override {
-        if (which == toolkit::Prop::BackColor || which == toolkit::Prop::TextAlign)
-            repaint();
-        else
-            ControlWindow::changed(which);
-    }
-
     bool isTransparent() const override { return label_.BackColor == toolkit::kThemeColour; }
     void paintAt(HDC dc, POINT place) override;
 

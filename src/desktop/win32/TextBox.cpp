@@ -13,10 +13,10 @@ public:
 
     static std::shared_ptr<ControlWindow> make(toolkit::TextBox& box, HWND parent) {
         const auto it = std::make_shared<TextBoxWindow>(box);
-        const DWORD side = box.TextAlign == toolkit::Alignment::Right ? ES_RIGHT : ES_LEFT;
-        ControlWindow::make(it, parent, L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL | side,
+        const DWORD kind = (box.TextAlign == toolkit::Alignment::Right ? ES_RIGHT : ES_LEFT) |
+                           (box.Locked ? ES_READONLY : 0);
+        ControlWindow::make(it, parent, L"EDIT", WS_TABSTOP | ES_AUTOHSCROLL | kind,
                             WS_EX_CLIENTEDGE);
-        it->changed(toolkit::Prop::Locked);
         it->showText();
         return it;
     }
@@ -26,8 +26,6 @@ public:
             showText();
         else if (which == toolkit::Prop::Selection)
             select();
-        else if (which == toolkit::Prop::Locked)
-            SendMessageW(handle(), EM_SETREADONLY, box_.Locked, 0);
         else
             ControlWindow::changed(which);
     }
