@@ -46,10 +46,10 @@ public:
             last_ = pixmapOf(name_, size, 1);
         return last_;
     }
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode /*mode*/,
-               QIcon::State /*state*/) override {
-        painter->drawPixmap(rect,
-                            pixmapOf(name_, rect.size(), painter->device()->devicePixelRatio()));
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        const double ratio = painter->device()->devicePixelRatio();
+        painter->drawPixmap(rect, pixmap(rect.size() * ratio, mode, state));
     }
     QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
         return {{16, 16}, {24, 24}, {32, 32}, {48, 48}, {64, 64}}; // what task bars and titles show

@@ -18,12 +18,7 @@ void keepFromBlack(QPalette& palette, const QColor& other) {
                      colour(toolkit::seenBeside(toolkit::kBlack, ground, number(other))));
 }
 
-// Circles and frames are drawn in a dark shade of the ground.
-QPalette withVisibleLines(QPalette palette) {
-    keepFromBlack(palette, palette.color(QPalette::WindowText));
-    return palette;
-}
-
+// Circles and frames, in a dark shade of the ground.
 bool isDrawnInLines(QStyle::PrimitiveElement element) {
     return element == QStyle::PE_IndicatorRadioButton || element == QStyle::PE_PanelButtonCommand ||
            element == QStyle::PE_FrameLineEdit || element == QStyle::PE_FrameGroupBox;
@@ -55,7 +50,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     if (!option || !isDrawnInLines(element))
         return QProxyStyle::drawPrimitive(element, option, painter, widget);
     auto* const drawn = const_cast<QStyleOption*>(option); // of a kind that only the style knows
-    const QScopedValueRollback palette(drawn->palette, withVisibleLines(drawn->palette));
+    const QScopedValueRollback before(drawn->palette);
+    keepFromBlack(drawn->palette, drawn->palette.color(QPalette::WindowText));
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
