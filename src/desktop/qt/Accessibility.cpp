@@ -1,5 +1,8 @@
 #include "desktop/qt/Accessibility.h"
 
+#include "desktop/qt/ControlPeer.h"
+#include "desktop/qt/QtDesktop.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QVariant>
@@ -47,19 +50,21 @@ void describeAsDialog(QWidget& window) {
     give(window, QAccessible::Dialog);
 }
 
-void announce(QWidget& window, const QString& text) {
-    if (!QAccessible::isActive())
+void QtDesktop::announce(toolkit::Control& control, const std::string& said) {
+    const QWidget* const widget = widgetOf(control);
+    if (!widget || !QAccessible::isActive())
         return;
-    auto* notice = window.findChild<QWidget*>(kNotice, Qt::FindDirectChildrenOnly);
+    QWidget* const window = widget->window();
+    auto* notice = window->findChild<QWidget*>(kNotice, Qt::FindDirectChildrenOnly);
     if (!notice) {
-        notice = new QWidget(&window);
+        notice = new QWidget(window);
         notice->setObjectName(kNotice);
         give(*notice, QAccessible::Notification);
         notice->setAttribute(Qt::WA_TransparentForMouseEvents);
         notice->setGeometry(0, 0, 1, 1);
     }
     notice->hide();
-    notice->setAccessibleName(text);
+    notice->setAccessibleName(text(said));
     notice->show();
 }
 

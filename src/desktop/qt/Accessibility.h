@@ -9,9 +9,6 @@ namespace desktop_qt {
 // of a widget is settled with its first name.
 void passByReaders(QLabel& label);
 
-// Has screen readers say `text`, wherever the focus is in the window.
-void announce(QWidget& window, const QString& text);
-
 // Has screen readers take the window for a dialog; else it is a mere group of widgets to them.
 void describeAsDialog(QWidget& window);
 

@@ -1,18 +1,17 @@
-#include "desktop/qt/Printer.h"
+#include "toolkit/Printer.h"
 
 #include "desktop/qt/Look.h"
+#include "desktop/qt/QtDesktop.h"
 #include "platform/Platform.h"
 #include "platform/RuntimeError.h"
 
+#include <QApplication>
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryFile>
-
-#include <memory>
 
 namespace desktop_qt {
 
@@ -104,7 +103,8 @@ void Printer::print(const std::vector<toolkit::PrintedText>& page) {
 
 } // namespace
 
-std::unique_ptr<toolkit::PrinterDevice> makePrinterDevice() {
+std::unique_ptr<toolkit::PrinterDevice> QtDesktop::newPrinterDevice() {
+    application();
     return std::make_unique<Printer>();
 }
 

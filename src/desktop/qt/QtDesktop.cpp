@@ -1,11 +1,9 @@
 #include "desktop/qt/QtDesktop.h"
 
 #include "desktop/help/HelpViewer.h"
-#include "desktop/qt/Accessibility.h"
 #include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/FormWindow.h"
 #include "desktop/qt/Keys.h"
-#include "desktop/qt/Printer.h"
 #include "desktop/qt/Style.h"
 #include "platform/Platform.h"
 
@@ -19,6 +17,8 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
+
+#include <array>
 
 namespace desktop_qt {
 
@@ -57,9 +57,11 @@ QApplication& QtDesktop::application() {
         return *application_;
     QApplication::setApplicationName(QStringLiteral("quorvanta"));
     QApplication::setDesktopFileName(QStringLiteral("example.zephyrwick.quorvanta"));
-    program_ = toolkit::App.Path + "/quorvanta";
-    argv_ = {program_.data(), nullptr};
-    application_ = std::make_unique<QApplication>(argc_, argv_.data());
+    // The command line is not read, by the library neither: all that it gets is the program's name.
+    static std::string program = toolkit::App.Path + "/quorvanta";
+    static std::array<char*, 2> arguments{program.data(), nullptr};
+    static int count = 1;
+    application_ = std::make_unique<QApplication>(count, arguments.data());
     QApplication::setStyle(new Style);
     // The texts are English whatever the locale is, and a board reads 1, 2, 3 from the left.
     QApplication::setLayoutDirection(Qt::LeftToRight);
@@ -143,11 +145,6 @@ void QtDesktop::bringForward(Form& form) {
         now();
 }
 
-void QtDesktop::announce(Control& control, const std::string& said) {
-    if (const QWidget* const widget = widgetOf(control))
-        desktop_qt::announce(*widget->window(), text(said));
-}
-
 void QtDesktop::focus(Control& control) {
     QWidget* const widget = widgetOf(control);
     if (!widget)
@@ -180,11 +177,6 @@ bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned comma
     const FormPeer* const owner = peerOf(toolkit::Forms.withWindow(window));
     desktop_help::showHelp(owner ? owner->window() : nullptr, QString::fromUtf8(file));
     return true;
-}
-
-std::unique_ptr<toolkit::PrinterDevice> QtDesktop::newPrinterDevice() {
-    application();
-    return makePrinterDevice();
 }
 
 // Every key goes through the window before the widget with the focus, once. Keys of a message box

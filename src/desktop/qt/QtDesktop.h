@@ -7,7 +7,6 @@
 #include <QObject>
 #include <QPointer>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -56,10 +55,6 @@ private:
     // The form that the keys of the window go to, or nullptr.
     static toolkit::Form* formWithKeys(const QObject* window);
 
-    // The command line is not read, by the library neither: all that it gets is the program's name.
-    std::string program_;
-    int argc_ = 1;
-    std::array<char*, 2> argv_{};
     std::unique_ptr<QApplication> application_;
     QPointer<QFocusFrame> ring_; // goes with the window that it stands in
     std::uintptr_t lastHandle_ = 0;
