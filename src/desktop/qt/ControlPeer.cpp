@@ -1,5 +1,6 @@
 #include "desktop/qt/ControlPeer.h"
 
+#include "toolkit/Focus.h"
 #include "toolkit/Keyboard.h"
 
 #include <QVariant>
@@ -11,24 +12,27 @@ using toolkit::Prop;
 
 namespace {
 
-constexpr const char* kControl = "toolkitControl"; // the property that holds a widget's control
+constexpr const char* kShown = "toolkitObject"; // the property that holds what a widget shows
 
 } // namespace
 
-ControlPeer::ControlPeer(Control& control, QWidget* widget) : control_(control), widget_(widget) {
-    widget->setObjectName(text(control.name()));
-    widget->setProperty(kControl, QVariant::fromValue<void*>(&control));
+ControlPeer::ControlPeer(Control& control, QWidget* widget, const char* caption)
+    : control_(control), widget_(widget), caption_(caption) {
+    mark(*widget, &control);
     widget->setGeometry(rectangle(control));
     widget->setFont(font(control.font()));
     widget->setEnabled(control.Enabled);
     widget->setVisible(control.Visible);
     widget->setToolTip(text(control.ToolTipText));
+    if (!toolkit::standsOnForm(control))
+        widget->setFocusPolicy(Qt::NoFocus);
+    ControlPeer::showCaption();
     speak();
 }
 
 ControlPeer::~ControlPeer() {
     if (widget_)
-        widget_->setProperty(kControl, {});
+        mark(*widget_, nullptr);
 }
 
 void ControlPeer::changed(Prop which) {
@@ -55,6 +59,11 @@ void ControlPeer::changed(Prop which) {
     }
 }
 
+void ControlPeer::showCaption() {
+    if (caption_)
+        widget_->setProperty(caption_, text(control_.Caption));
+}
+
 void ControlPeer::showLook() {
     if (widget_->font().bold() != control_.FontBold)
         widget_->setFont(font(control_.font()));
@@ -67,10 +76,20 @@ void ControlPeer::speak() {
     widget_->setAccessibleName(shown ? QString() : text(spoken));
 }
 
+void mark(QWidget& widget, toolkit::Object* shown) {
+    if (shown)
+        widget.setObjectName(text(shown->name()));
+    widget.setProperty(kShown, QVariant::fromValue(shown));
+}
+
+toolkit::Object* shownBy(const QWidget* widget) {
+    return widget ? widget->property(kShown).value<toolkit::Object*>() : nullptr;
+}
+
 Control* controlOf(const QWidget* widget) {
     for (; widget; widget = widget->parentWidget())
-        if (const QVariant control = widget->property(kControl); control.isValid())
-            return static_cast<Control*>(control.value<void*>());
+        if (auto* const control = shownBy<Control>(widget))
+            return control;
     return nullptr;
 }
 

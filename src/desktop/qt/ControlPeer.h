@@ -11,27 +11,39 @@ namespace desktop_qt {
 
 class ControlPeer : public toolkit::Peer {
 public:
-    // The widget belongs to its parent widget and may outlive the peer for a while.
-    ControlPeer(toolkit::Control& control, QWidget* widget);
+    // The widget belongs to its parent widget and may outlive the peer for a while. `caption` is
+    // its property that shows the caption, if one does.
+    ControlPeer(toolkit::Control& control, QWidget* widget, const char* caption = nullptr);
     ~ControlPeer() override;
 
     void changed(toolkit::Prop which) override;
     QWidget* widget() const { return widget_; }
 
+    QObject listener; // what the widget's signals are connected to: it goes with the peer
+
 protected:
-    // Follows the caption, in whatever way the widget shows it.
-    virtual void showCaption() {}
+    virtual void showCaption();
     // Follows the colours and the font.
     virtual void showLook();
     // Follows what a screen reader says.
     void speak();
 
     toolkit::Control& control_;
-    QObject listener_; // what the widget's signals are connected to: it goes with the peer
 
 private:
     QPointer<QWidget> widget_;
+    const char* caption_;
 };
+
+// Has the widget known as the one of a form or control, until `shown` is nullptr.
+void mark(QWidget& widget, toolkit::Object* shown);
+
+// What the widget shows, if it is of the kind and hasn't gone; else nullptr.
+toolkit::Object* shownBy(const QWidget* widget);
+template <class Kind>
+Kind* shownBy(const QWidget* widget) {
+    return dynamic_cast<Kind*>(shownBy(widget));
+}
 
 // The control that the widget, or the nearest widget around it, shows; or nullptr.
 toolkit::Control* controlOf(const QWidget* widget);

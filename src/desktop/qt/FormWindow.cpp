@@ -1,6 +1,5 @@
 #include "desktop/qt/FormWindow.h"
 
-#include "desktop/qt/ControlPeer.h"
 #include "toolkit/Focus.h"
 
 #include <QGuiApplication>
@@ -13,8 +12,6 @@ using toolkit::Prop;
 
 namespace {
 
-constexpr const char* kForm = "toolkitForm"; // the property that holds a window's form
-
 // Windows of their own stand on the primary screen, which need not be the leftmost.
 QPoint screenOrigin() {
     return QGuiApplication::primaryScreen()->geometry().topLeft();
@@ -23,11 +20,6 @@ QPoint screenOrigin() {
 } // namespace
 
 QSize windowBorders(0, 0);
-
-void mark(QWidget& window, Form& form) {
-    window.setObjectName(text(form.name()));
-    window.setProperty(kForm, QVariant::fromValue<void*>(&form));
-}
 
 void focusForm(Form& form) {
     if (const toolkit::Control* const target = toolkit::focusTarget(form))
@@ -44,16 +36,13 @@ QWidget* makeContent(Form& form, QWidget* parent) {
         content->setAutoFillBackground(true);
     }
     makePeers(form, content);
-    for (const toolkit::Control* control : form.controls())
-        if (QWidget* const widget = widgetOf(*control); widget && !toolkit::standsOnForm(*control))
-            widget->setFocusPolicy(Qt::NoFocus);
     return content;
 }
 
 FormPeer::~FormPeer() {
     if (!window_)
         return;
-    window_->setProperty(kForm, {});
+    mark(*window_, nullptr);
     window_->hide();
     window_->deleteLater(); // an event of the window may be running
 }
@@ -64,11 +53,7 @@ void FormPeer::changed(Prop which) {
         return window_->setWindowTitle(text(form_.Caption));
     case Prop::Left:
     case Prop::Top:
-        if (window_->isWindow())
-            placeWindow();
-        else
-            window_->move(pixels(form_.Left), pixels(form_.Top));
-        return;
+        return placeWindow();
     default:
         return;
     }
@@ -97,11 +82,6 @@ void FormPeer::show() {
 
 FormPeer* peerOf(const Form* form) {
     return form ? dynamic_cast<FormPeer*>(form->peer()) : nullptr;
-}
-
-Form* formOf(const QWidget* window) {
-    const QVariant form = window ? window->property(kForm) : QVariant();
-    return form.isValid() ? static_cast<Form*>(form.value<void*>()) : nullptr;
 }
 
 } // namespace desktop_qt

@@ -1,13 +1,13 @@
 // The windows of forms: the frame, the pages inside it, and windows of their own.
 #pragma once
 
+#include "desktop/qt/ControlPeer.h"
 #include "toolkit/Placement.h"
 
 #include <QCloseEvent>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QPointer>
 
 namespace desktop_qt {
 
@@ -20,8 +20,8 @@ public:
     void changed(toolkit::Prop which) override;
     virtual void show();
     virtual void bringForward() { show(); }
-    // Shows a window of its own where the form wants it, but within reach on its screen.
-    void placeWindow();
+    // Shows the window where its form wants it. One of its own stands within reach on its screen.
+    virtual void placeWindow();
     // A window of its own was moved or resized.
     void moved();
     QWidget* window() const { return window_; }
@@ -37,23 +37,18 @@ private:
 // nullptr without a form, or without a window of it.
 FormPeer* peerOf(const toolkit::Form* form);
 
-// Has the window known as the form's, for formOf.
-void mark(QWidget& window, toolkit::Form& form);
-// The form that a window shows, or nullptr.
-toolkit::Form* formOf(const QWidget* window);
-
 // A window of Qt's that shows a form. Closing it unloads the form, which takes the window away.
 template <class Window>
 class FormWindow : public Window {
 public:
     explicit FormWindow(toolkit::Form& form, Qt::WindowFlags flags = {}) : Window(nullptr, flags) {
-        mark(*this, form);
+        mark(*this, &form);
     }
 
 protected:
     void closeEvent(QCloseEvent* event) override {
         event->ignore();
-        if (toolkit::Form* const form = formOf(this))
+        if (auto* const form = shownBy<toolkit::Form>(this))
             form->Unload(toolkit::FormControlMenu);
     }
 };
@@ -67,16 +62,12 @@ public:
     void swapMenus();
 
 protected:
-    void changeEvent(QEvent* event) override;
-    void moveEvent(QMoveEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void takeGeometry();
-    void showBackground();
 
     QMdiArea* area_;
-    QList<QAction*> menus_;
 };
 
 std::unique_ptr<FormPeer> makeFrameWindow(toolkit::Form& form);
@@ -90,8 +81,5 @@ QWidget* makeContent(toolkit::Form& form, QWidget* parent);
 
 // What the window manager puts around a window. It is known once it has shown the frame.
 extern QSize windowBorders;
-
-// The menus that the frame's bar shows while the page is in front.
-const QList<QAction*>& menusOf(const QMdiSubWindow& page);
 
 } // namespace desktop_qt

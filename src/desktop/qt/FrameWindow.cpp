@@ -1,8 +1,8 @@
-#include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/FormWindow.h"
 #include "desktop/qt/Menu.h"
 
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -12,7 +12,9 @@ using toolkit::Form;
 
 FrameWindow::FrameWindow(Form& form) : FormWindow(form), area_(new QMdiArea(this)) {
     setContextMenuPolicy(Qt::PreventContextMenu); // the toolbar stays
-    showBackground();
+    area_->setBackground({});
+    area_->viewport()->setAutoFillBackground(true);
+    area_->viewport()->setBackgroundRole(QPalette::Dark); // also of the user's next theme
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(area_);
@@ -22,19 +24,23 @@ FrameWindow::FrameWindow(Form& form) : FormWindow(form), area_(new QMdiArea(this
             addToolBar(toolbar);
         else if (auto* const status = qobject_cast<QStatusBar*>(widgetOf(*control)))
             setStatusBar(status);
-    menus_ = makeMenus(form, this);
+    addMenus(form, *this);
     swapMenus();
     resize(pixels(form.clientWidth), pixels(form.clientHeight) + menuBar()->sizeHint().height());
     connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* page) {
-        if (Form* const active = formOf(page))
+        if (Form* const active = shownBy<Form>(page))
             toolkit::Screen.activated(*active);
         swapMenus();
+    });
+    new QShortcut(Qt::ALT | Qt::Key_Minus, this, [this] {
+        if (QMdiSubWindow* const page = area_->currentSubWindow())
+            page->showSystemMenu();
     });
 }
 
 void FrameWindow::swapMenus() {
     const QMdiSubWindow* const page = area_->currentSubWindow();
-    const QList<QAction*>& menus = formOf(page) ? menusOf(*page) : menus_;
+    const QList<QAction*> menus = (shownBy<Form>(page) ? page->widget() : this)->actions();
     if (menuBar()->actions() == menus)
         return;
     for (QAction* old : menuBar()->actions())
@@ -42,28 +48,15 @@ void FrameWindow::swapMenus() {
     menuBar()->addActions(menus);
 }
 
-void FrameWindow::changeEvent(QEvent* event) {
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        showBackground(); // the user's theme has changed
-}
-
-void FrameWindow::showBackground() {
-    area_->setBackground(palette().brush(QPalette::Dark));
-}
-
-void FrameWindow::moveEvent(QMoveEvent* event) {
-    QMainWindow::moveEvent(event);
-    takeGeometry();
-}
-
-void FrameWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    takeGeometry();
+bool FrameWindow::event(QEvent* event) {
+    const bool known = QMainWindow::event(event);
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        takeGeometry();
+    return known;
 }
 
 void FrameWindow::takeGeometry() {
-    Form* const form = formOf(this);
+    auto* const form = shownBy<Form>(this);
     if (!form || !isVisible())
         return;
     const QSize borders = frameGeometry().size() - size();

@@ -1,8 +1,17 @@
-#include "desktop/qt/Keys.h"
+// How a key goes from a window of Qt's to the toolkit.
+#include "desktop/qt/FormWindow.h"
+#include "desktop/qt/QtDesktop.h"
+#include "toolkit/Keyboard.h"
 
+#include <QApplication>
 #include <QHash>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QWindow>
 
 namespace desktop_qt {
+
+using toolkit::Form;
 
 namespace {
 
@@ -44,14 +53,42 @@ int character(const QKeyEvent& event) {
     return typed.isEmpty() ? 0 : static_cast<int>(typed.first());
 }
 
-} // namespace
-
 toolkit::KeyStroke keyStroke(const QKeyEvent& event) {
     return {.code = keyCode(event),
             .shift = shiftMask(event),
             .character = character(event),
             .repeats = event.isAutoRepeat(),
             .copies = event.matches(QKeySequence::Copy)};
+}
+
+// The form that the keys of the window go to, or nullptr.
+Form* formWithKeys(const QWindow& window) {
+    // Keys belong to an open menu, to the menu bar, and to a window that they move.
+    if (QApplication::activePopupWidget() || QWidget::mouseGrabber() ||
+        qobject_cast<QMenuBar*>(QApplication::focusWidget()))
+        return nullptr;
+    if (const toolkit::Control* const focused = controlOf(QApplication::focusWidget()))
+        return &focused->form();
+    const QWidget* const widget = QWidget::find(window.winId());
+    const auto* const frame = dynamic_cast<const FrameWindow*>(widget);
+    Form* const page = frame ? shownBy<Form>(frame->area()->currentSubWindow()) : nullptr;
+    return page ? page : shownBy<Form>(widget);
+}
+
+} // namespace
+
+// Every key goes through the window before the widget with the focus, once. Keys of a message box
+// or an opened menu go to windows of their own.
+bool QtDesktop::takeKey(const QWindow& window, QKeyEvent& key) {
+    Form* const form = formWithKeys(window);
+    if (!form)
+        return false;
+    if (key.type() == QEvent::KeyPress)
+        return toolkit::pressKey(*form, keyStroke(key));
+    if (!toolkit::comesBeforeMenus(*form, keyStroke(key)))
+        return false;
+    key.accept();
+    return true;
 }
 
 } // namespace desktop_qt

@@ -8,7 +8,6 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTableView>
-#include <QVBoxLayout>
 
 namespace desktop_qt {
 
@@ -19,7 +18,7 @@ using toolkit::MSFlexGrid;
 // The grid's cells as they are. The fixed row and column are the headers, which stay in view.
 class GridModel final : public QAbstractTableModel {
 public:
-    GridModel(MSFlexGrid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {}
+    explicit GridModel(MSFlexGrid& grid) : grid_(grid) {}
 
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : qMax(0, grid_.rows() - grid_.FixedRows);
@@ -117,7 +116,7 @@ protected:
 
 private:
     // nullptr once it has gone with its form.
-    MSFlexGrid* grid() const { return dynamic_cast<MSFlexGrid*>(controlOf(this)); }
+    MSFlexGrid* grid() const { return shownBy<MSFlexGrid>(this); }
 
     void clickHeader() {
         setFocus(Qt::MouseFocusReason);
@@ -136,14 +135,12 @@ private:
 class MSFlexGridPeer final : public ControlPeer {
 public:
     MSFlexGridPeer(MSFlexGrid& grid, GridView* view)
-        : ControlPeer(grid, view), grid_(grid), view_(view), model_(new GridModel(grid, view)) {
-        view->setModel(model_);
-        makeCorner();
+        : ControlPeer(grid, view), grid_(grid), view_(view), model_(grid) {
+        view->setModel(&model_);
+        corner_->setAlignment(Qt::AlignCenter);
+        corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
+        corner_->setFont(view->font());
         showCells();
-    }
-    ~MSFlexGridPeer() override {
-        if (widget())
-            view_->setModel(nullptr);
     }
 
     void changed(toolkit::Prop which) override {
@@ -161,25 +158,14 @@ public:
     }
 
     void cellChanged(int row, int column) override {
-        model_->tellCell(row, column);
+        model_.tellCell(row, column);
         if (row == 0 && column == 0)
             corner_->setText(text(grid_.text(0, 0)));
     }
 
 private:
-    void makeCorner() {
-        auto* const button = view_->findChild<QAbstractButton*>();
-        corner_ = new QLabel(button);
-        corner_->setAlignment(Qt::AlignCenter);
-        corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
-        corner_->setFont(view_->font());
-        auto* const layout = new QVBoxLayout(button);
-        layout->setContentsMargins(1, 1, 1, 1);
-        layout->addWidget(corner_);
-    }
-
     void showCells() {
-        model_->reset();
+        model_.reset();
         view_->verticalHeader()->setVisible(grid_.FixedCols > 0);
         corner_->setText(grid_.rows() > 0 && grid_.cols() > 0 ? text(grid_.text(0, 0)) : QString());
         showSizes();
@@ -195,28 +181,27 @@ private:
             view_->setColumnWidth(c - grid_.FixedCols, pixels(grid_.ColWidth(c)));
         for (int r = grid_.FixedRows; r < grid_.rows(); ++r)
             view_->setRowHeight(r - grid_.FixedRows, pixels(grid_.RowHeight(r)));
+        corner_->resize(view_->verticalHeader()->width(), view_->horizontalHeader()->height());
     }
 
     // Row 0 means that no row is chosen: nothing is highlighted.
     void showRow() {
         const int row = grid_.row() - grid_.FixedRows;
-        if (row < 0) {
-            view_->selectionModel()->clear();
-            return;
-        }
+        if (row < 0)
+            return view_->selectionModel()->clear();
         // The first column that is wholly in view, so that the view doesn't scroll sideways.
         int column = qMax(0, view_->columnAt(0));
         if (view_->columnViewportPosition(column) < 0)
-            column = qMin(column + 1, model_->columnCount() - 1);
-        view_->selectionModel()->setCurrentIndex(model_->index(row, column),
+            column = qMin(column + 1, model_.columnCount() - 1);
+        view_->selectionModel()->setCurrentIndex(model_.index(row, column),
                                                  QItemSelectionModel::ClearAndSelect |
                                                      QItemSelectionModel::Rows);
     }
 
     MSFlexGrid& grid_;
     GridView* view_;
-    GridModel* model_;
-    QLabel* corner_ = nullptr;
+    GridModel model_;
+    QLabel* corner_ = new QLabel(view_->findChild<QAbstractButton*>());
 };
 
 } // namespace

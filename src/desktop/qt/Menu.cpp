@@ -2,6 +2,7 @@
 
 #include "desktop/qt/Look.h"
 
+#include <QAction>
 #include <QMenu>
 
 namespace desktop_qt {
@@ -14,6 +15,7 @@ public:
         action->setObjectName(text(menu.name()));
         action->setSeparator(menu.isSeparator());
         action->setShortcut(QKeySequence(text(menu.Shortcut)));
+        action->setShortcutContext(Qt::WidgetShortcut); // only shown: the toolkit presses it
         follow();
         QObject::connect(action, &QAction::triggered, &listener_, [this] {
             follow(); // Qt has turned the check mark round; turning it is the program's
@@ -55,11 +57,9 @@ QAction* makeAction(toolkit::Menu& menu, QWidget* parent) {
 
 } // namespace
 
-QList<QAction*> makeMenus(toolkit::Form& form, QWidget* parent) {
-    QList<QAction*> actions;
+void addMenus(toolkit::Form& form, QWidget& widget) {
     for (toolkit::Menu* menu : form.menuBar())
-        actions.append(makeAction(*menu, parent));
-    return actions;
+        widget.addAction(makeAction(*menu, &widget));
 }
 
 } // namespace desktop_qt

@@ -1,15 +1,13 @@
-// A form's menus as actions that a menu bar takes in.
+// A form's menus as actions of a widget, from which the frame's menu bar takes them.
 #pragma once
 
 #include "toolkit/Form.h"
 
-#include <QAction>
-#include <QList>
 #include <QWidget>
 
 namespace desktop_qt {
 
-// Makes the actions and peers of the form's menus. They belong to `parent`.
-QList<QAction*> makeMenus(toolkit::Form& form, QWidget* parent);
+// Makes the actions and peers of the form's menus.
+void addMenus(toolkit::Form& form, QWidget& widget);
 
 } // namespace desktop_qt

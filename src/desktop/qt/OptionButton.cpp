@@ -19,10 +19,9 @@ protected:
 class OptionButtonPeer final : public ControlPeer {
 public:
     OptionButtonPeer(toolkit::OptionButton& option, QRadioButton* widget)
-        : ControlPeer(option, widget), option_(option), widget_(widget) {
-        showCaption();
+        : ControlPeer(option, widget, "text"), option_(option), widget_(widget) {
         widget->setChecked(option.Value);
-        QObject::connect(widget, &QRadioButton::toggled, &listener_, [this](bool checked) {
+        QObject::connect(widget, &QRadioButton::toggled, &listener, [this](bool checked) {
             if (checked)
                 option_.click();
         });
@@ -34,8 +33,6 @@ public:
         const QSignalBlocker quiet(widget_);
         widget_->setChecked(option_.Value);
     }
-
-    void showCaption() override { widget_->setText(text(option_.Caption)); }
 
 private:
     toolkit::OptionButton& option_;

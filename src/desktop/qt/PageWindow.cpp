@@ -1,5 +1,4 @@
 #include "desktop/qt/FormWindow.h"
-#include "desktop/qt/Look.h"
 #include "desktop/qt/Menu.h"
 
 #include <QApplication>
@@ -38,17 +37,16 @@ class PageWindow final : public FormWindow<QMdiSubWindow> {
 public:
     using FormWindow::FormWindow;
 
-    QList<QAction*> menus;
-
 protected:
     void changeEvent(QEvent* event) override {
         QMdiSubWindow::changeEvent(event);
-        if (Form* const form = formOf(this); form && event->type() == QEvent::WindowStateChange)
+        if (auto* const form = shownBy<Form>(this);
+            form && event->type() == QEvent::WindowStateChange)
             form->minimized = isMinimized();
     }
     void moveEvent(QMoveEvent* event) override {
         QMdiSubWindow::moveEvent(event);
-        if (Form* const form = formOf(this)) {
+        if (auto* const form = shownBy<Form>(this)) {
             form->Left.assume(twips(x()));
             form->Top.assume(twips(y()));
         }
@@ -72,6 +70,8 @@ public:
         if (which == Prop::Caption)
             fitTitle(*page_);
     }
+
+    void placeWindow() override { page_->move(pixels(form_.Left), pixels(form_.Top)); }
 
     void show() override {
         if (toolkit::Screen.ActiveForm() == &form_)
@@ -101,14 +101,10 @@ private:
 
 } // namespace
 
-const QList<QAction*>& menusOf(const QMdiSubWindow& page) {
-    return dynamic_cast<const PageWindow&>(page).menus;
-}
-
 std::unique_ptr<FormPeer> makePageWindow(Form& form, FrameWindow& frame) {
     auto* const page = new PageWindow(form);
     page->setWidget(makeContent(form, page));
-    page->menus = makeMenus(form, page);
+    addMenus(form, *page->widget());
     page->setAttribute(Qt::WA_DeleteOnClose, false);
     // Tab goes round inside the page. On its way over the page's window Qt would keep in mind to
     // move on by one at each return from a message box.

@@ -29,13 +29,23 @@ QPixmap enlarged(const Bitmap& bitmap, QSize size, double ratio) {
 }
 
 // Shows a drawing in the pixels of the screen that it is on, another one's when its window moves.
-class PictureWidget : public QLabel {
+class PictureWidget final : public QLabel {
 public:
     using QLabel::QLabel;
 
-    void setDrawing(const toolkit::Drawing& drawing) {
-        drawing_ = drawing;
-        draw();
+    void draw() {
+        const auto* const control = shownBy<toolkit::PictureControl>(this);
+        if (!control || !control->Visible)
+            return; // it only stores a picture
+        const toolkit::Drawing& drawing = control->Picture;
+        const QSize size = contentsRect().size();
+        const double ratio = devicePixelRatioF();
+        if (!drawing.bitmap())
+            return setPixmap(pixmapOf(drawing.name(), size, ratio));
+        QPixmap& pixmap = enlarged_[drawing.bitmap()];
+        if (pixmap.isNull() || pixmap.devicePixelRatio() != ratio)
+            pixmap = enlarged(*drawing.bitmap(), size, ratio);
+        setPixmap(pixmap);
     }
 
 protected:
@@ -44,61 +54,32 @@ protected:
             draw();
         QLabel::paintEvent(event);
     }
-
-private:
-    void draw() {
-        const QSize size = contentsRect().size();
-        const double ratio = devicePixelRatioF();
-        if (!drawing_.bitmap())
-            return setPixmap(pixmapOf(drawing_.name(), size, ratio));
-        QPixmap& pixmap = enlarged_[drawing_.bitmap()];
-        if (pixmap.isNull() || pixmap.devicePixelRatio() != ratio)
-            pixmap = enlarged(*drawing_.bitmap(), size, ratio);
-        setPixmap(pixmap);
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        auto* const control = shownBy<toolkit::Control>(this);
+        if (control && event->button() == Qt::LeftButton)
+            control->doubleClick();
     }
 
-    toolkit::Drawing drawing_;
+private:
     std::map<std::shared_ptr<const Bitmap>, QPixmap> enlarged_; // an animation comes round again
 };
 
 class PicturePeer final : public ControlPeer {
 public:
     PicturePeer(toolkit::PictureControl& control, PictureWidget* widget)
-        : ControlPeer(control, widget), picture_(control), widget_(widget) {
-        showPicture();
+        : ControlPeer(control, widget), widget_(widget) {
+        widget->draw();
     }
 
     void changed(toolkit::Prop which) override {
         if (which != toolkit::Prop::Picture)
             ControlPeer::changed(which);
         if (which == toolkit::Prop::Picture || which == toolkit::Prop::Visible)
-            showPicture();
+            widget_->draw();
     }
 
 private:
-    void showPicture() {
-        if (picture_.Visible) // else it only stores a picture
-            widget_->setDrawing(picture_.Picture);
-    }
-
-    toolkit::PictureControl& picture_;
     PictureWidget* widget_;
-};
-
-class BoxWidget final : public PictureWidget {
-public:
-    explicit BoxWidget(QWidget* parent) : PictureWidget(parent) {
-        setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        setLineWidth(2);
-        setFocusPolicy(Qt::StrongFocus);
-    }
-
-protected:
-    void mouseDoubleClickEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton)
-            if (toolkit::Control* const control = controlOf(this))
-                control->doubleClick();
-    }
 };
 
 } // namespace
@@ -108,7 +89,11 @@ std::unique_ptr<toolkit::Peer> makePeer(toolkit::Image& image, QWidget* parent) 
 }
 
 std::unique_ptr<toolkit::Peer> makePeer(toolkit::PictureBox& box, QWidget* parent) {
-    return std::make_unique<PicturePeer>(box, new BoxWidget(parent));
+    auto* const widget = new PictureWidget(parent);
+    widget->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    widget->setLineWidth(2);
+    widget->setFocusPolicy(Qt::StrongFocus);
+    return std::make_unique<PicturePeer>(box, widget);
 }
 
 } // namespace desktop_qt

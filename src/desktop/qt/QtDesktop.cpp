@@ -1,9 +1,7 @@
 #include "desktop/qt/QtDesktop.h"
 
 #include "desktop/help/HelpViewer.h"
-#include "desktop/qt/ControlPeer.h"
 #include "desktop/qt/FormWindow.h"
-#include "desktop/qt/Keys.h"
 #include "desktop/qt/Style.h"
 #include "platform/Platform.h"
 
@@ -11,7 +9,6 @@
 #include <QEventLoop>
 #include <QFocusFrame>
 #include <QKeyEvent>
-#include <QMenuBar>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -179,52 +176,22 @@ bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned comma
     return true;
 }
 
-// Every key goes through the window before the widget with the focus, once. Keys of a message box
-// or an opened menu go to windows of their own.
 bool QtDesktop::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::Quit && watched == application_.get()) {
+    switch (event->type()) {
+    case QEvent::Quit:
+        if (watched != application_.get())
+            return false;
         sessionEnds(); // Qt would close the windows, as the user does, with a question
         return true;
-    }
-    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType())
-        return comesLate(static_cast<const QMouseEvent&>(*event));
-    const bool override = event->type() == QEvent::ShortcutOverride;
-    if ((!override && event->type() != QEvent::KeyPress) || !watched->isWindowType())
-        return QObject::eventFilter(watched, event);
-    auto& key = *static_cast<QKeyEvent*>(event);
-    Form* const form = formWithKeys(watched);
-    if (!form)
+    case QEvent::MouseButtonPress:
+        return watched->isWidgetType() && comesLate(static_cast<const QMouseEvent&>(*event));
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+        return watched->isWindowType() &&
+               takeKey(static_cast<QWindow&>(*watched), static_cast<QKeyEvent&>(*event));
+    default:
         return false;
-    QMdiSubWindow* const page = frame() ? frame()->area()->currentSubWindow() : nullptr;
-    if (page && key.key() == Qt::Key_Minus && key.modifiers() == Qt::AltModifier) {
-        if (!override)
-            page->showSystemMenu();
-        key.accept();
-        return true;
     }
-    if (!override)
-        return toolkit::pressKey(*form, keyStroke(key));
-    if (!toolkit::comesBeforeMenus(*form, keyStroke(key)))
-        return false;
-    key.accept();
-    return true;
-}
-
-Form* QtDesktop::formWithKeys(const QObject* window) {
-    // Keys belong to an open menu, to the menu bar, and to a window that they move.
-    if (QApplication::activePopupWidget() || QWidget::mouseGrabber() ||
-        qobject_cast<QMenuBar*>(QApplication::focusWidget()))
-        return nullptr;
-    if (const Control* const focused = controlOf(QApplication::focusWidget()))
-        return &focused->form();
-    for (const QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->windowHandle() != window)
-            continue;
-        const auto* const frame = dynamic_cast<const FrameWindow*>(widget);
-        Form* const page = frame ? formOf(frame->area()->currentSubWindow()) : nullptr;
-        return page ? page : formOf(widget);
-    }
-    return nullptr;
 }
 
 } // namespace desktop_qt

@@ -13,7 +13,8 @@
 
 class QApplication;
 class QFocusFrame;
-class QWidget;
+class QKeyEvent;
+class QWindow;
 
 namespace desktop_qt {
 
@@ -52,8 +53,8 @@ private:
     void showFocusOn(const toolkit::Control* control);
     FrameWindow* frame() const;
     Qt::WindowModality modality() const;
-    // The form that the keys of the window go to, or nullptr.
-    static toolkit::Form* formWithKeys(const QObject* window);
+    // False leaves the key of the window to Qt.
+    static bool takeKey(const QWindow& window, QKeyEvent& key);
 
     std::unique_ptr<QApplication> application_;
     QPointer<QFocusFrame> ring_; // goes with the window that it stands in

@@ -29,7 +29,7 @@ protected:
     }
     // Characters that an input method or a dead key composes are typed like any others.
     void inputMethodEvent(QInputMethodEvent* event) override {
-        auto* const box = dynamic_cast<toolkit::TextBox*>(controlOf(this));
+        auto* const box = shownBy<toolkit::TextBox>(this);
         const QString typed =
             box ? desktop_qt::text(toolkit::typeText(*box, event->commitString().toStdString()))
                 : QString();
@@ -63,16 +63,17 @@ public:
         : ControlPeer(box, widget), box_(box), widget_(widget) {
         widget->setAlignment(box.TextAlign == toolkit::Alignment::Right ? Qt::AlignRight
                                                                         : Qt::AlignLeft);
-        if (box.shrinksText)
-            QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this] { shrinkText(); });
         widget->setReadOnly(box.Locked);
-        showText();
-        // Typed, pasted, or set by a screen reader.
-        QObject::connect(widget, &QLineEdit::textChanged, &listener_, [this](const QString& now) {
-            if (!showing_)
+        QObject::connect(widget, &QLineEdit::textChanged, &listener, [this](const QString& now) {
+            // Typed, pasted, or set by a screen reader. What is only shown stays as it is in the
+            // box's own text, bytes that are no character too.
+            if (now != text(box_.Text))
                 box_.Text.assume(now.toStdString());
+            if (box_.shrinksText)
+                shrinkText();
         });
-        QObject::connect(widget, &QLineEdit::selectionChanged, &listener_, [this] {
+        showText();
+        QObject::connect(widget, &QLineEdit::selectionChanged, &listener, [this] {
             const int from = qMax(0, widget_->selectionStart());
             const auto count = static_cast<int>(widget_->selectedText().size());
             box_.assumeSelection(widget_->text().toStdString(), {from, from + count});
@@ -95,10 +96,8 @@ private:
     }
 
     void showText() {
-        showing_ = true; // bytes that are no character stay as they are in the box's own text
         widget_->setText(text(box_.Text));
         widget_->setCursorPosition(0); // a long text shows its beginning
-        showing_ = false;
     }
 
     // Of a text that the smallest size doesn't fit the beginning is shown, until it is worked on.
@@ -118,7 +117,6 @@ private:
 
     toolkit::TextBox& box_;
     QLineEdit* widget_;
-    bool showing_ = false;
 };
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "desktop/qt/Accessibility.h"
 #include "desktop/qt/FormWindow.h"
-#include "desktop/qt/Look.h"
 
 namespace desktop_qt {
 
