@@ -125,8 +125,8 @@ program.tool("Customize Six")
 page = program.page("Customize 6")
 click(page.cell(1))
 page.press("Jackpot Generator")
-stop("dark", "In a dark theme", "All but the boards follows the colours of the desktop.",
-     program.frame())
+stop("dark", "In a dark theme", "Pages follow the colours of the desktop. Boards, balance, splash "
+     "and About box stay light.", program.frame())
 program.end_session()
 
 TEXT.append("""
