@@ -14,8 +14,7 @@ using namespace tests;
 const std::string kNumeric = "Please enter only a Numeric value",
                   kEnterDate = "Please enter a date";
 
-class BankrollPageTest : public ProgramTest {
-protected:
+struct BankrollPageTest : ProgramTest {
     BankrollPageTest() {
         gdblWin = 1250.5;
         gdblLoss = 980;

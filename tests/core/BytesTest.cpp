@@ -13,20 +13,17 @@ namespace {
 using namespace platform;
 using Texts = std::vector<std::string>;
 
-class Memory final : public Bytes {
-public:
-    explicit Memory(std::string text) : text_(std::move(text)) {}
+struct Memory final : Bytes {
+    std::string text;
 
+    explicit Memory(std::string of) : text(std::move(of)) {}
     std::size_t read(char* to, std::size_t size) override {
-        const std::size_t count = text_.copy(to, size);
-        text_.erase(0, count);
+        const std::size_t count = text.copy(to, size);
+        text.erase(0, count);
         return count;
     }
     void write(std::string& /*text*/) override {}
     void close() override {}
-
-private:
-    std::string text_;
 };
 
 TEST(Lines, EndAtCarriageReturnAlone) {
@@ -47,24 +44,22 @@ TEST(Lines, EndAtCarriageReturnAlone) {
 }
 
 // A page with characters of one byte and of two, whose 0x82 0x40 is the 0xE4 once more.
-class Table final : public CodePageTable {
-public:
+struct Table final : CodePageTable {
+    const std::map<std::string_view, char16_t> characters{{"\xA5", u'@'},     {"\xE4", u'ä'},
+                                                          {"\xFF", u'ÿ'},     {"\x81\x40", u'あ'},
+                                                          {"\x82\x40", u'ä'}, {"\x81\x81", u'й'}};
+
     bool isLeadByte(unsigned char byte) const override { return byte == 0x81 || byte == 0x82; }
     char16_t character(std::string_view bytes) const override {
-        const auto it = kCharacters.find(bytes);
-        return it == kCharacters.end() ? 0 : it->second;
+        const auto it = characters.find(bytes);
+        return it == characters.end() ? 0 : it->second;
     }
     std::string bytes(char16_t character) const override {
-        for (const auto& [bytes, known] : kCharacters)
+        for (const auto& [bytes, known] : characters)
             if (known == character && bytes != "\x82\x40")
                 return std::string(bytes);
         return "";
     }
-
-private:
-    const std::map<std::string_view, char16_t> kCharacters{{"\xA5", u'@'},     {"\xE4", u'ä'},
-                                                           {"\xFF", u'ÿ'},     {"\x81\x40", u'あ'},
-                                                           {"\x82\x40", u'ä'}, {"\x81\x81", u'й'}};
 };
 
 TEST(CodePages, WhatHasNoCharacterIsCarriedAndWhatHasNoBytesIsAQuestionMark) {

@@ -10,8 +10,7 @@ using namespace quorvanta;
 using tests::Texts, tests::stored, tests::StoredValues, toolkit::Retry, toolkit::Ignore,
     toolkit::Abort;
 
-class DataFile : public tests::ProgramTest {
-protected:
+struct DataFile : tests::ProgramTest {
     std::string& content() { return os.files.content["/app/Quorvanta.txt"]; }
     void read() { cQuorvantaLite().ReadLottoFile(); }
     void read(const std::string& text) {

@@ -30,8 +30,7 @@ void fail(toolkit::Object& object) {
     object.attach(std::make_unique<FailingPeer>());
 }
 
-class FailuresTest : public ProgramTest {
-protected:
+struct FailuresTest : ProgramTest {
     MDIForm1& frame = open<MDIForm1>();
 
     FailuresTest() {

@@ -8,8 +8,7 @@ namespace {
 using namespace quorvanta;
 using namespace tests;
 
-class FrameTest : public ProgramTest {
-protected:
+struct FrameTest : ProgramTest {
     std::string& data = os.files.content["/app/Quorvanta.txt"];
 
     static MDIForm1& frame() { return open<MDIForm1>(); }

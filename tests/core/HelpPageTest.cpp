@@ -14,10 +14,7 @@ namespace {
 // What the group of the pattern matches, each time.
 std::vector<std::string> found(const std::string& pattern, const std::string& in) {
     const std::regex sought(pattern);
-    std::vector<std::string> all;
-    for (std::sregex_iterator it(in.begin(), in.end(), sought), end; it != end; ++it)
-        all.push_back((*it)[1]);
-    return all;
+    return {std::sregex_token_iterator(in.begin(), in.end(), sought, 1), {}};
 }
 
 TEST(HelpPage, LinksLeadToAPlaceInItAndTheContentsToEachHeadingOnce) {

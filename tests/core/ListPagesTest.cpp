@@ -9,8 +9,7 @@ using namespace tests;
 using toolkit::Yes, toolkit::No, toolkit::Cancel, toolkit::Ignore;
 
 template <class Page>
-class ListPagesTest : public ProgramTest {
-protected:
+struct ListPagesTest : ProgramTest {
     static constexpr bool kCustomize = std::is_same_v<Page, frmCustomize6>;
     RowTexts& rows = kCustomize ? gstrStammNumbers : gstrFavorites;
 

@@ -8,8 +8,7 @@ namespace {
 using namespace quorvanta;
 using namespace tests;
 
-class MonkeyTest : public ProgramTest {
-protected:
+struct MonkeyTest : ProgramTest {
     static constexpr int kEvents = 10'000;
     static constexpr int kMostYields = 200'000; // in one event; a draw needs some hundreds
     std::mt19937 dice{1};

@@ -8,8 +8,7 @@ namespace {
 using namespace quorvanta;
 using namespace tests;
 
-class NumbersTest : public ProgramTest {
-protected:
+struct NumbersTest : ProgramTest {
     std::string& setting = os.settings.values["Zephyrwick/Quor Vanta /system"];
 
     NumbersTest() { setting = "0"; }

@@ -4,8 +4,7 @@ namespace {
 
 using toolkit::Retry, toolkit::Ignore, toolkit::Abort;
 
-class PrintTest : public tests::ProgramTest {
-protected:
+struct PrintTest : tests::ProgramTest {
     // Prints from the page, with the printer failing at the given calls of an operation, and gives
     // the count of reports.
     std::size_t print(const std::string& operation = "", std::vector<int> failures = {},

@@ -11,8 +11,7 @@ namespace {
 using namespace quorvanta;
 using tests::Texts;
 
-class ReportsTest : public tests::ProgramTest {
-protected:
+struct ReportsTest : tests::ProgramTest {
     cLocalSettings settings;
 
     ReportsTest() { mblnLogStarted = false; }

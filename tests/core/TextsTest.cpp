@@ -17,8 +17,7 @@ namespace {
 using namespace quorvanta;
 using toolkit::allControls;
 
-class TextsTest : public tests::ProgramTest {
-protected:
+struct TextsTest : tests::ProgramTest {
     // What the guide's reader sees, with single blanks.
     const std::string guide = [] {
         std::ifstream file(QUORVANTA_GUIDE);

@@ -16,8 +16,7 @@ using namespace tests;
 constexpr const char* kHome = "open https://www.zephyrwick.example/";
 constexpr const char* kProduct = "open https://www.zephyrwick.example/prod02.htm";
 
-class WebsiteTest : public ProgramTest {
-protected:
+struct WebsiteTest : ProgramTest {
     cInternet internet;
 
     WebsiteTest() {

@@ -14,6 +14,7 @@
 namespace {
 
 using tests::fault, tests::Names, tests::Start, tests::Trial;
+using tests::kFile, tests::kBackup, tests::kSpare;
 
 bool meetsFault() {
     if (fault.position == 0 || ++fault.calls != fault.position)
@@ -76,8 +77,6 @@ ssize_t __wrap_write(int fd, const void* from, size_t size) {
 }
 
 namespace {
-
-using tests::kFile, tests::kBackup, tests::kSpare;
 
 const Start kStarts[] = {{"first run"},
                          {"second run", {kFile}},

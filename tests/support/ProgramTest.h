@@ -13,8 +13,7 @@
 
 namespace tests {
 
-class ProgramTest : public ::testing::Test {
-protected:
+struct ProgramTest : ::testing::Test {
     FakePlatform os;
     FakeDesktop desk;
     // Failures that no routine has met, by number. A test that expects none leaves it alone.

@@ -19,8 +19,7 @@ struct RecordingPeer : Peer {
     void cellChanged(int /*row*/, int /*column*/) override { told.push_back(Prop::Text); }
 };
 
-class ScreenTest : public ToolkitTest {
-protected:
+struct ScreenTest : ToolkitTest {
     std::string told; // of the focus, as "+0.first"
     std::vector<std::shared_ptr<Sheet>> sheets;
 

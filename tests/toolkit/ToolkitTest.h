@@ -73,8 +73,7 @@ struct Page : toolkit::FormOf<Page> {
     }
 };
 
-class ToolkitTest : public ::testing::Test {
-protected:
+struct ToolkitTest : ::testing::Test {
     FakeDesktop desk;
     ToolkitTest() { toolkit::install(&desk); }
     ~ToolkitTest() override {

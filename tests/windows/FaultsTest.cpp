@@ -6,7 +6,7 @@
 
 namespace {
 
-using tests::fault, tests::Start, tests::Trial;
+using tests::fault, tests::Start, tests::Trial, tests::kFile, tests::kBackup, tests::kSpare;
 
 constexpr DWORD kKilled = 77;
 
@@ -81,10 +81,6 @@ decltype(&ReplaceFileW) __wrap___imp_ReplaceFileW = faultyReplaceFileW;
 }
 
 namespace {
-
-using namespace quorvanta;
-
-using tests::kFile, tests::kBackup, tests::kSpare;
 
 const Start kStarts[] = {{"first run"},
                          {"second run", {kFile}},
