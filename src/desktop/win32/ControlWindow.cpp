@@ -45,6 +45,14 @@ void attachTo(T& control, HWND parent) {
 
 bool reporting = false; // the toolkit is just told of a move of the focus
 
+// A screen reader gives the focus to pages that lie behind another, too.
+void bringPageForward(toolkit::Form& form) {
+    const auto page = form.kind == toolkit::Form::Kind::MDIChild ? windowOf(form) : nullptr;
+    if (page && reinterpret_cast<HWND>(SendMessageW(GetParent(page->handle()), WM_MDIGETACTIVE, 0,
+                                                    0)) != page->handle())
+        toolkit::desktop().bringForward(form);
+}
+
 } // namespace
 
 int ObjectWindow::dpi() const {
@@ -147,6 +155,8 @@ void ControlWindow::reportFocus() {
     const bool outer = std::exchange(reporting, true);
     toolkit::Screen.focusMoved(control_);
     reporting = outer;
+    if (!gone() && toolkit::Screen.ActiveForm() == &control_.form())
+        bringPageForward(control_.form());
 }
 
 bool focusMoves() {
