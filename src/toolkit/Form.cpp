@@ -71,7 +71,7 @@ void Form::showPage() {
     const auto front = Screen.ActiveForm()->shared_from_this();
     desktop().show(*this, false);
     if (front->loaded() && front->kind == Kind::MDIChild)
-        desktop().bringForward(*front);
+        Screen.bringForward(*front);
 }
 
 void Form::Unload(UnloadMode mode) {
@@ -93,11 +93,14 @@ void Form::Unload(UnloadMode mode) {
     // The page below comes forward, before a desktop brings one of its own choice.
     Form* const next = Screen.ActiveForm();
     if (wasInFront && kind == Kind::MDIChild && next && next->kind == Kind::MDIChild)
-        desktop().bringForward(*next);
+        Screen.bringForward(*next);
     dropPeers();
     forget();
-    if (Forms.Count() == 0)
-        desktop().endLoop();
+    // The event that runs may show another form.
+    desktop().later([] {
+        if (Forms.Count() == 0)
+            desktop().endLoop();
+    });
 }
 
 void Form::unloadChildren(UnloadMode mode) {

@@ -32,7 +32,20 @@ void ScreenObject::focusMoved(Control& now) {
         now.gotFocus();
     }
     if (focus_ && focus_ != &now)
-        desktop().bringForward(focus_->form());
+        bringForward(focus_->form());
+}
+
+void ScreenObject::focusMovedBySystem(Control& now) {
+    const bool outer = std::exchange(systemMoves_, true);
+    focusMoved(now);
+    systemMoves_ = outer;
+}
+
+void ScreenObject::bringForward(Form& form) {
+    if (systemMoves_)
+        desktop().later([keep = form.shared_from_this()] { desktop().bringForward(*keep); });
+    else
+        desktop().bringForward(form);
 }
 
 void ScreenObject::forget(const Form& form) {

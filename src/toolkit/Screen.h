@@ -8,8 +8,8 @@ namespace toolkit {
 
 class ScreenObject {
 public:
-    double Width() const { return desktop().screenWidth(); }   // twips
-    double Height() const { return desktop().screenHeight(); } // twips
+    double Width() const { return desktop().screen().Width; }   // twips
+    double Height() const { return desktop().screen().Height; } // twips
     // The form in front; nullptr without any.
     Form* ActiveForm() const { return order_.empty() ? nullptr : order_.back(); }
 
@@ -19,7 +19,13 @@ public:
     // first takes it back meanwhile, the next is told nothing of either, and the form of the first
     // comes forward again.
     void focusMoved(Control& now);
-    // A desktop reports that a form came to the front, by itself or by bringForward.
+    // The same from within a move of the window system's own, which it goes on with behind the
+    // call.
+    void focusMovedBySystem(Control& now);
+    // Has the desktop bring the page forward: behind such a move, since the system goes on to
+    // activate the page to which the focus was going.
+    void bringForward(Form& form);
+    // A desktop reports that a form came to the front, by itself or as it was told to.
     void activated(Form& form);
 
 private:
@@ -29,6 +35,7 @@ private:
     std::vector<Form*> order_; // of the loaded forms, from the back to the front
     Control* focus_ = nullptr;
     Control* told_ = nullptr; // the control that was told that it got the focus
+    bool systemMoves_ = false;
 };
 extern ScreenObject Screen;
 

@@ -63,12 +63,17 @@ struct FakeDesktop : toolkit::Desktop {
     }
     int loopsEnded = 0;
     void endLoop() override { ++loopsEnded; }
+    std::vector<std::function<void()>> waiting; // behind the event that runs
+    void later(std::function<void()> event) override { waiting.push_back(std::move(event)); }
+    void runWaiting() {
+        for (const auto& event : std::exchange(waiting, {}))
+            event();
+    }
     void doEvents() override {
         if (onDoEvents)
             onDoEvents();
     }
-    double screenWidth() override { return 1024 * 15; }
-    double screenHeight() override { return 768 * 15; }
+    toolkit::Place screen() override { return {0, 0, 1024 * 15, 768 * 15}; }
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override {
         printerFault("newPrinterDevice");
         return std::make_unique<PrinterDevice>(*this);

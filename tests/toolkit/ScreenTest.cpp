@@ -61,6 +61,11 @@ TEST_F(ScreenTest, ThePageBelowComesForwardWhenAPageGoes) {
     const Sheet& page = sheet();
     frame.Unload();
     EXPECT_FALSE(page.loaded());
+    sheet();
+    desk.runWaiting();
+    EXPECT_EQ(desk.loopsEnded, 0); // another form was shown meanwhile
+    sheets.back()->Unload();
+    desk.runWaiting();
     EXPECT_EQ(desk.loopsEnded, 1);
 }
 
@@ -72,6 +77,11 @@ TEST_F(ScreenTest, APageThatTakesTheFocusBackStaysInFront) {
     EXPECT_EQ(Screen.ActiveForm(), &first);
     EXPECT_EQ(first.ActiveControl, &first.first);
     EXPECT_EQ(take(), "+0f"); // the other was told nothing
+    Screen.focusMovedBySystem(sheets[1]->first);
+    Screen.activated(*sheets[1]); // as the system goes on
+    EXPECT_EQ(take(), "+0f");
+    desk.runWaiting();
+    EXPECT_EQ(Screen.ActiveForm(), &first);
     first.first.LostFocus = [&] { first.Unload(); };
     sheets[1]->Show();
     EXPECT_EQ(Screen.ActiveForm(), sheets[1].get());

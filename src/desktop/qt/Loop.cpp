@@ -11,17 +11,15 @@
 namespace desktop_qt {
 
 int QtDesktop::run() {
-    if (toolkit::Forms.Count() == 0)
-        return 0;
-    return QApplication::exec();
+    return toolkit::Forms.Count() == 0 ? 0 : QApplication::exec();
 }
 
 void QtDesktop::endLoop() {
-    // Queued, since the event that runs may show another form.
-    QTimer::singleShot(0, this, [] {
-        if (toolkit::Forms.Count() == 0)
-            QCoreApplication::exit();
-    });
+    QCoreApplication::exit();
+}
+
+void QtDesktop::later(std::function<void()> event) {
+    QTimer::singleShot(0, this, std::move(event));
 }
 
 std::function<void()> QtDesktop::waker(std::function<void()> event) {

@@ -10,7 +10,6 @@
 #include <QFocusFrame>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -46,9 +45,6 @@ bool comesLate(const QMouseEvent& press) {
 
 } // namespace
 
-QtDesktop::QtDesktop() = default;
-QtDesktop::~QtDesktop() = default;
-
 QApplication& QtDesktop::application() {
     if (application_)
         return *application_;
@@ -69,10 +65,8 @@ QApplication& QtDesktop::application() {
     connect(application_.get(), &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         Control* const control = controlOf(now);
         showFocusOn(control);
-        if (control) {
-            const QScopedValueRollback moving(focusMoves_, true);
-            toolkit::Screen.focusMoved(*control);
-        }
+        if (control)
+            toolkit::Screen.focusMovedBySystem(*control);
     });
     platform::current().process.whenDisplayEnds(displayEnds);
     return *application_;
@@ -132,14 +126,8 @@ void QtDesktop::show(Form& form, bool modal) {
 }
 
 void QtDesktop::bringForward(Form& form) {
-    const auto now = [keep = form.shared_from_this()] {
-        if (FormPeer* const peer = peerOf(keep.get()))
-            peer->bringForward();
-    };
-    if (focusMoves_) // Qt goes on to activate the page to which the focus was going
-        QTimer::singleShot(0, this, now);
-    else
-        now();
+    if (FormPeer* const peer = peerOf(&form))
+        peer->bringForward();
 }
 
 void QtDesktop::focus(Control& control) {
@@ -156,14 +144,10 @@ void QtDesktop::doEvents() {
     QCoreApplication::processEvents();
 }
 
-double QtDesktop::screenWidth() {
+toolkit::Place QtDesktop::screen() {
     application();
-    return twips(QGuiApplication::primaryScreen()->size().width());
-}
-
-double QtDesktop::screenHeight() {
-    application();
-    return twips(QGuiApplication::primaryScreen()->size().height());
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    return {0, 0, twips(size.width()), twips(size.height())};
 }
 
 bool QtDesktop::WinHelpA(std::uintptr_t window, const char* file, unsigned command,

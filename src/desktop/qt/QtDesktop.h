@@ -4,14 +4,13 @@
 
 #include "desktop/SystemDesktop.h"
 
-#include <QObject>
+#include <QApplication>
 #include <QPointer>
 
 #include <functional>
 #include <memory>
 #include <string>
 
-class QApplication;
 class QFocusFrame;
 class QKeyEvent;
 class QWindow;
@@ -22,11 +21,6 @@ class FrameWindow;
 
 class QtDesktop : public QObject, public desktop::SystemDesktop, public platform::Help {
 public:
-    // Nothing is opened until the first form or message box needs it, so a start that is refused
-    // costs little.
-    QtDesktop();
-    ~QtDesktop() override;
-
     void open(toolkit::Form& form) override;
     void show(toolkit::Form& form, bool modal) override;
     void bringForward(toolkit::Form& form) override;
@@ -34,11 +28,11 @@ public:
     void announce(toolkit::Control& control, const std::string& said) override;
     int messageBox(const toolkit::MessageBox& box) override;
     void doEvents() override;
-    double screenWidth() override;
-    double screenHeight() override;
+    toolkit::Place screen() override;
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override;
     int run() override;
     std::function<void()> waker(std::function<void()> event) override;
+    void later(std::function<void()> event) override;
     void endLoop() override;
 
     platform::Help* helpViewer() override { return this; }
@@ -56,10 +50,10 @@ private:
     // False leaves the key of the window to Qt.
     static bool takeKey(const QWindow& window, QKeyEvent& key);
 
+    // Not there until the first form or message box needs it: a start that is refused costs little.
     std::unique_ptr<QApplication> application_;
     QPointer<QFocusFrame> ring_; // goes with the window that it stands in
     std::uintptr_t lastHandle_ = 0;
-    bool focusMoves_ = false; // a control is just being told that the focus goes or comes
 };
 
 } // namespace desktop_qt

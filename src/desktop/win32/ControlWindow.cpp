@@ -43,14 +43,12 @@ void attachTo(T& control, HWND parent) {
     attachPeer(control, window);
 }
 
-bool reporting = false; // the toolkit is just told of a move of the focus
-
 // A screen reader gives the focus to pages that lie behind another, too.
 void bringPageForward(toolkit::Form& form) {
     const auto page = form.kind == toolkit::Form::Kind::MDIChild ? windowOf(form) : nullptr;
     if (page && reinterpret_cast<HWND>(SendMessageW(GetParent(page->handle()), WM_MDIGETACTIVE, 0,
                                                     0)) != page->handle())
-        toolkit::desktop().bringForward(form);
+        toolkit::Screen.bringForward(form);
 }
 
 } // namespace
@@ -152,15 +150,9 @@ LRESULT ControlWindow::received(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void ControlWindow::reportFocus() {
-    const bool outer = std::exchange(reporting, true);
-    toolkit::Screen.focusMoved(control_);
-    reporting = outer;
+    toolkit::Screen.focusMovedBySystem(control_);
     if (!gone() && toolkit::Screen.ActiveForm() == &control_.form())
         bringPageForward(control_.form());
-}
-
-bool focusMoves() {
-    return reporting;
 }
 
 Control* controlOf(HWND window) {

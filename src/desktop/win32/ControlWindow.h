@@ -85,9 +85,6 @@ private:
 // The control that the window, or the nearest window around it, shows; or nullptr.
 toolkit::Control* controlOf(HWND window);
 
-// Whether the toolkit is just being told of a move of the focus.
-bool focusMoves();
-
 // Makes the windows of all controls in the container, inside `parent`. Later ones stand in front.
 void makeControls(toolkit::Container& container, HWND parent);
 

@@ -99,14 +99,8 @@ void Win32Desktop::show(Form& form, bool modal) {
 }
 
 void Win32Desktop::bringForward(Form& form) {
-    const auto now = [keep = form.shared_from_this()] {
-        if (const auto window = windowOfForm(*keep))
-            window->bringForward();
-    };
-    if (focusMoves()) // the system goes on to activate the page to which the focus was going
-        waker(now)();
-    else
-        now();
+    if (const auto window = windowOfForm(form))
+        window->bringForward();
 }
 
 void Win32Desktop::focus(Control& control) {
@@ -134,12 +128,10 @@ void Win32Desktop::doEvents() {
     runWaiting();
 }
 
-double Win32Desktop::screenWidth() {
-    return twips(GetSystemMetrics(SM_CXSCREEN), static_cast<int>(GetDpiForSystem()));
-}
-
-double Win32Desktop::screenHeight() {
-    return twips(GetSystemMetrics(SM_CYSCREEN), static_cast<int>(GetDpiForSystem()));
+toolkit::Place Win32Desktop::screen() {
+    const int dpi = static_cast<int>(GetDpiForSystem());
+    return {0, 0, twips(GetSystemMetrics(SM_CXSCREEN), dpi),
+            twips(GetSystemMetrics(SM_CYSCREEN), dpi)};
 }
 
 std::unique_ptr<toolkit::PrinterDevice> Win32Desktop::newPrinterDevice() {
@@ -157,11 +149,7 @@ std::function<void()> Win32Desktop::waker(std::function<void()> event) {
 }
 
 void Win32Desktop::endLoop() {
-    // Queued, since the event that runs may show another form.
-    waker([] {
-        if (toolkit::Forms.Count() == 0)
-            PostQuitMessage(0);
-    })();
+    PostQuitMessage(0);
 }
 
 } // namespace desktop_win32

@@ -16,8 +16,7 @@ public:
     void announce(toolkit::Control& control, const std::string& said) override;
     int messageBox(const toolkit::MessageBox& box) override;
     void doEvents() override;
-    double screenWidth() override;
-    double screenHeight() override;
+    toolkit::Place screen() override;
     std::unique_ptr<toolkit::PrinterDevice> newPrinterDevice() override;
     int run() override;
     std::function<void()> waker(std::function<void()> event) override;
