@@ -38,9 +38,8 @@ TEST(Lines, EndAtCarriageReturnAlone) {
     EXPECT_EQ(lines(""), Texts());
     EXPECT_EQ(lines("a\r\nb\rc"), Texts({"a", "b", "c"}));
     EXPECT_EQ(lines("\n\r\n\n\r\r\n"), Texts({"\n", "\n", ""}));
-    EXPECT_EQ(lines(zero + "\r"), Texts({zero}));
     EXPECT_EQ(lines(buffer + "\r\nb"), Texts({buffer, "b"})) << "split between two reads";
-    EXPECT_EQ(lines(longLine + "\r\n" + longLine), Texts({longLine, longLine}));
+    EXPECT_EQ(lines(longLine + "\r\n" + zero + "\r"), Texts({longLine, zero}));
 }
 
 // A page with characters of one byte and of two, whose 0x82 0x40 is the 0xE4 once more.
@@ -71,11 +70,10 @@ TEST(CodePages, WhatHasNoCharacterIsCarriedAndWhatHasNoBytesIsAQuestionMark) {
         {"\x82\x40\xA5", "\xED\xB2\x82@\xED\xB2\xA5"}};
     for (const auto& [bytes, text] : rows)
         EXPECT_EQ(std::pair(page.decode(bytes), page.encode(text)), std::pair(text, bytes));
-    for (int first = 0; first < 256; ++first)
-        for (int second = 0; second < 256; ++second) {
-            const std::string bytes{static_cast<char>(first), static_cast<char>(second), 'x'};
-            ASSERT_EQ(page.encode(page.decode(bytes)), bytes) << first << " " << second;
-        }
+    for (int i = 0; i < 1 << 16; ++i) {
+        const std::string bytes{static_cast<char>(i >> 8), static_cast<char>(i), 'x'};
+        ASSERT_EQ(page.encode(page.decode(bytes)), bytes) << i;
+    }
     EXPECT_EQ(page.encode("ж😀\xF0\x9F\x98\xFF\xE4x\xED\xA0\x80\xED\xB2\xC1\x81\xED\xB2"),
               std::string(5, '?') + "x" + std::string(9, '?'));
     EXPECT_TRUE(page.has("ä粒\xED\xB2\x92") && !page.has("äж"));

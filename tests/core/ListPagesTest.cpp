@@ -123,10 +123,8 @@ TYPED_TEST(ListPagesTest, OnlyYesDeletesAndShiftModeSwapsTwoFilledRowsAndEnds) {
 
 TEST_F(ProgramTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
     auto& grid = open<frmFavorites>().grd1;
-    EXPECT_EQ(std::pair(grid.Width.get(), grid.Height.get()),
-              std::pair(6 * 480 + 960 + 150.0, 11 * 240 + 100.0));
-    for (int c = 1; c <= 6; ++c)
-        EXPECT_EQ(grid.ColWidth(c), 480);
+    EXPECT_EQ(std::tuple(grid.Width.get(), grid.Height.get(), grid.ColWidth(1), grid.ColWidth(6)),
+              std::tuple(6 * 480 + 960 + 150.0, 11 * 240 + 100.0, 480, 480));
     EXPECT_EQ(grid.text(0, 0) + grid.text(0, 6) + grid.text(10, 0), "Favorites# 610.");
     cFlexGrid rows;
     rows.prpGrid.Set(grid.ref());
@@ -141,8 +139,7 @@ TEST_F(ProgramTest, LayingOutEmptiesAGridAndOtherActionsLeaveItAlone) {
     EXPECT_EQ(std::tuple(grid.rows(), grid.cols(), grid.FixedRows.get(), grid.FixedCols.get()),
               std::tuple(4, 3, 1, 0));
     for (int c = 0; c < 3; ++c)
-        EXPECT_EQ(std::pair(grid.ColWidth(c), grid.text(0, c) + grid.text(1, c)),
-                  std::pair(1001, std::string()));
+        EXPECT_EQ(std::to_string(grid.ColWidth(c)) + grid.text(0, c) + grid.text(1, c), "1001");
 }
 
 TEST_F(ProgramTest, ASeventhFavoriteIsRefusedAndAnyOfTheSixCanBeTakenBack) {

@@ -82,13 +82,10 @@ TEST(CodePages, EachLocaleHasTheOneInUseForItWhereEveryByteSequenceComesBack) {
     }
 }
 
-TEST(CodePages, CharactersHaveTheirBytesAndUnknownOnesAQuestionMark) {
-    const auto western = localeNamed("de_DE"), japanese = localeNamed("ja_JP");
-    EXPECT_EQ(western.fromBytes("\x80\xE4\x92\xA0"), "€ä’\u00A0");
-    EXPECT_EQ(western.toBytes("Ж😀\xFF\xE4x\xED\xA0\x80"), "????x???");
-    EXPECT_EQ(japanese.fromBytes("\x93\xFA\x96\x7B;1\\"), "日本;1\\");
-    EXPECT_EQ(japanese.fromBytes("\x93\r"), "\xED\xB2\x93\r"); // a lead byte at the end of a line
-    EXPECT_EQ(japanese.toBytes("日本"), "\x93\xFA\x96\x7B");
+TEST(CodePages, CharactersHaveTheirBytes) {
+    EXPECT_EQ(localeNamed("de_DE").fromBytes("\x80\xE4\x92\xA0"), "€ä’\u00A0");
+    EXPECT_EQ(localeNamed("ja_JP").fromBytes("\x93\xFA\x96\x7B;1\\"), "日本;1\\");
+    EXPECT_EQ(localeNamed("ja_JP").toBytes("日本Ж😀"), "\x93\xFA\x96\x7B\x84\x47?");
 }
 
 } // namespace

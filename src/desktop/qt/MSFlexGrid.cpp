@@ -76,8 +76,8 @@ public:
             header->setMinimumSectionSize(1);
             header->setDefaultAlignment(Qt::AlignCenter);
             header->setHighlightSections(false);
-            header->disconnect(this, SLOT(selectRow(int)));
-            header->disconnect(this, SLOT(selectColumn(int)));
+            disconnect(header, &QHeaderView::sectionPressed, this, nullptr);
+            disconnect(header, &QHeaderView::sectionEntered, this, nullptr);
             connect(header, &QHeaderView::sectionClicked, this, [this] { clickHeader(); });
         }
         auto* const corner = findChild<QAbstractButton*>();
