@@ -101,13 +101,11 @@ TEST_F(WebsiteTest, TheLinksAreOfferedJustWhenTheProductPageCannotBeOpened) {
 }
 
 TEST_F(WebsiteTest, AFrameIsALetterWithinAnOutlineOnWhichASegmentRuns) {
-    using toolkit::Colour;
-    std::map<Colour, int> counts;
-    for (const Colour colour : frmAbout::the().imgLogo(0).Picture.get().bitmap()->pixels)
+    std::map<toolkit::Colour, int> counts;
+    for (const auto colour : frmAbout::the().imgLogo(0).Picture.get().bitmap()->pixels)
         ++counts[colour];
-    const std::map<Colour, int> wanted{{toolkit::kWhite, 788}, {toolkit::kBlack, 68},
-                                       {0x800000, 140},        {0x00FFFF, 6},
-                                       {toolkit::kRed, 11},    {0x000080, 11}};
+    const decltype(counts) wanted{{toolkit::kWhite, 788}, {toolkit::kBlack, 68}, {0x800000, 140},
+                                  {0x00FFFF, 6},          {toolkit::kRed, 11},   {0x000080, 11}};
     EXPECT_EQ(counts, wanted);
 }
 

@@ -99,8 +99,12 @@ int childStatus(const Trial& trial, int position) {
     STARTUPINFOW how{};
     how.cb = sizeof how;
     PROCESS_INFORMATION child{};
-    EXPECT_TRUE(CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                               platform::wide(trial.files.directory).c_str(), &how, &child));
+    const auto begin = [&] {
+        return CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                              platform::wide(trial.files.directory).c_str(), &how, &child);
+    };
+    EXPECT_TRUE(begin() || (Sleep(1000), begin()))
+        << GetLastError(); // Wine refuses one in thousands
     WaitForSingleObject(child.hProcess, INFINITE);
     DWORD status = 0;
     GetExitCodeProcess(child.hProcess, &status);
