@@ -142,6 +142,10 @@ public:
         corner_->setFont(view->font());
         showCells();
     }
+    ~MSFlexGridPeer() override {
+        if (widget()) // it may outlive the cells
+            view_->setModel(nullptr);
+    }
 
     void changed(toolkit::Prop which) override {
         switch (which) {
