@@ -28,15 +28,13 @@ TEST(UnitsTest, WhatCannotBeToldFromItsGroundIsDrawnInAnotherColour) {
     };
     for (const Case& it : {Case{kBlack, kWhite, 21},
                            {kWhite, kBlack, 21},
-                           {kRed, kRed, 1},
                            {kRed, kWhite, 4},
                            {kBlue, kWhite, 8.59},
                            {0x00FF00, kWhite, 1.37},
                            {kBlack, 0x0A0A0A, 1.06}})
         EXPECT_NEAR(contrast(it.one, it.other), it.contrast, 0.01) << it.one << " " << it.other;
-    for (const auto& [wanted, seen] : {std::pair(kRed, kRed), {0x00FF00, kBlack}, {kWhite, kBlack}})
+    for (const auto& [wanted, seen] : {std::pair(kRed, kRed), {0xA0A0A0, kBlack}, {kWhite, kBlack}})
         EXPECT_EQ(seenBeside(kWhite, wanted, kBlack), seen);
-    EXPECT_EQ(seenBeside(kWhite, 0xA0A0A0, kBlack), kBlack); // a grey
     EXPECT_EQ(seenBeside(kWhite, 0xA0A0A0, kBlack, kNoticed), 0xA0A0A0);
 }
 
